@@ -1,0 +1,31 @@
+# What every target of the project has in common.
+
+# Language level, warnings and the Qt definitions that keep conversions explicit. All of it is private: a program that
+# links the library keeps its own settings.
+function(mvx_target_defaults target)
+    target_compile_features(${target} PUBLIC cxx_std_17)
+    set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+    target_compile_definitions(${target} PRIVATE
+        QT_DEPRECATED_WARNINGS_SINCE=0x050F00
+        QT_DISABLE_DEPRECATED_BEFORE=0x050E00
+        QT_NO_CAST_FROM_ASCII
+        QT_NO_CAST_FROM_BYTEARRAY
+        QT_NO_CAST_TO_ASCII
+        QT_NO_FOREACH
+        QT_NO_KEYWORDS
+        QT_NO_URL_CAST_FROM_STRING)
+endfunction()
+
+# A shared library of the project: hidden visibility with a generated export header `<target>_export.h`, the so-name
+# of the project and an alias in the namespace under which an installed library is found.
+function(mvx_shared_library target)
+    mvx_target_defaults(${target})
+    set_target_properties(${target} PROPERTIES
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${MVX_SOVERSION}
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON)
+    generate_export_header(${target} EXPORT_FILE_NAME ${CMAKE_CURRENT_BINARY_DIR}/export/${target}_export.h)
+    add_library(mvx::${target} ALIAS ${target})
+endfunction()

@@ -1,0 +1,381 @@
+#include "CDomDoc.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+#include <utility>
+
+namespace
+{
+// Longest text of a file that a message repeats, in characters. Descriptions come from outside; a value of a megabyte
+// must not become a message of a megabyte.
+constexpr int MAX_QUOTED_LENGTH = 200;
+
+QString quoted(const QString& text)
+{
+    return text.size() <= MAX_QUOTED_LENGTH ? text : text.left(MAX_QUOTED_LENGTH) + QLatin1String("...");
+}
+
+// The two kinds of item that are looked up by name.
+enum class EItem
+{
+    Element,
+    Attribute
+};
+
+// The messages. All arguments of one go in with one call, so that a "%1" inside a text of the file stays as it is.
+
+QString missingMessage(EItem item, const QString& name, const QDomElement& element)
+{
+    QString message;
+    switch (item) {
+    case EItem::Element:
+        message = QCoreApplication::translate(
+            "CDomDoc", "Error while parsing TAG <%1> in line %2 : Element <%3> is missing.");
+        break;
+    case EItem::Attribute:
+        message = QCoreApplication::translate(
+            "CDomDoc", "Error while parsing TAG <%1> in line %2 : Attribute \"%3\" is missing.");
+        break;
+    }
+    return message.arg(quoted(element.tagName()), QString::number(element.lineNumber()), quoted(name));
+}
+
+QString wrongMessage(
+    EItem item, const QString& name, const QDomElement& element, const QString& text, const QString& expected)
+{
+    QString message;
+    switch (item) {
+    case EItem::Element:
+        message = QCoreApplication::translate(
+            "CDomDoc", "Error while parsing TAG <%1> in line %2 : Element <%3> is \"%4\", but should be %5.");
+        break;
+    case EItem::Attribute:
+        message = QCoreApplication::translate(
+            "CDomDoc", "Error while parsing TAG <%1> in line %2 : Attribute \"%3\" is \"%4\", but should be %5.");
+        break;
+    }
+    return message.arg(
+        quoted(element.tagName()), QString::number(element.lineNumber()), quoted(name), quoted(text), expected);
+}
+
+// What a value should have been, for the last argument of the message above.
+
+QString number(int bits, int base)
+{
+    if (base == 0) {
+        return QCoreApplication::translate(
+                   "CDomDoc",
+                   "an unsigned %1-bit number in base 0 (hexadecimal after 0x, octal after 0, otherwise decimal)")
+            .arg(bits);
+    }
+    return QCoreApplication::translate("CDomDoc", "an unsigned %1-bit number in base %2")
+        .arg(QString::number(bits), QString::number(base));
+}
+
+QString boolean(const QString& trueText, const QString& falseText)
+{
+    return QCoreApplication::translate("CDomDoc", "\"%1\" or \"%2\"").arg(trueText, falseText);
+}
+
+QString date()
+{
+    return QCoreApplication::translate("CDomDoc", "a date year-month-day (yyyy-MM-dd)");
+}
+
+// Conversions: the value of a text, or nothing when the text is not a value of the type.
+
+template <typename Number> std::optional<Number> toNumber(const QString& text, int base)
+{
+    const QString digits = text.trimmed();
+    // QString::toUInt would take a sign as part of the number.
+    if (digits.startsWith(QLatin1Char('+')) || digits.startsWith(QLatin1Char('-'))) {
+        return std::nullopt;
+    }
+    bool ok = false;
+    const unsigned int value = digits.toUInt(&ok, base);
+    if (!ok || value > std::numeric_limits<Number>::max()) {
+        return std::nullopt;
+    }
+    return static_cast<Number>(value);
+}
+
+std::optional<bool> toBool(const QString& text, const QString& trueText, const QString& falseText)
+{
+    const QString value = text.trimmed();
+    if (value == trueText) {
+        return true;
+    }
+    if (value == falseText) {
+        return false;
+    }
+    return std::nullopt;
+}
+
+bool isDigit(QChar character)
+{
+    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
+}
+
+// True when the text has the length of the pattern, a digit wherever the pattern has a 9, and is equal elsewhere.
+// Qt's own ISO conversions are checked with it because they accept other separators and trailing text.
+bool matches(const QString& text, QLatin1String pattern)
+{
+    return std::equal(text.begin(), text.end(), pattern.begin(), pattern.end(), [](QChar character, char expected) {
+        return expected == '9' ? isDigit(character) : character == QLatin1Char(expected);
+    });
+}
+
+int numberAt(const QString& text, int position, int digits)
+{
+    return text.midRef(position, digits).toInt();
+}
+
+// The text without surrounding white space and without the time zone of XML Schema: "Z" or an offset up to 14:00.
+QString withoutZone(const QString& text)
+{
+    const QString value = text.trimmed();
+    if (value.endsWith(QLatin1Char('Z'))) {
+        return value.chopped(1);
+    }
+    const QString zone = value.right(6);
+    if (matches(zone, QLatin1String("+99:99")) || matches(zone, QLatin1String("-99:99"))) {
+        const int minutes = numberAt(zone, 4, 2);
+        if (minutes < 60 && numberAt(zone, 1, 2) * 60 + minutes <= 14 * 60) {
+            return value.chopped(6);
+        }
+    }
+    return value;
+}
+
+std::optional<QDate> toDate(const QString& text)
+{
+    const QString value = withoutZone(text);
+    const QDate date(numberAt(value, 0, 4), numberAt(value, 5, 2), numberAt(value, 8, 2));
+    if (!matches(value, QLatin1String("9999-99-99")) || !date.isValid()) {
+        return std::nullopt;
+    }
+    return date;
+}
+
+// The milliseconds of a fraction of a second with its point, 0 for an empty one; further digits are cut off.
+std::optional<int> toMilliseconds(const QString& fraction)
+{
+    if (fraction.isEmpty()) {
+        return 0;
+    }
+    if (!fraction.startsWith(QLatin1Char('.')) || fraction.size() == 1
+        || !std::all_of(fraction.begin() + 1, fraction.end(), isDigit)) {
+        return std::nullopt;
+    }
+    return numberAt(fraction.leftJustified(4, QLatin1Char('0')), 1, 3);
+}
+
+std::optional<QTime> toTime(const QString& text)
+{
+    const QString value = withoutZone(text);
+    const std::optional<int> milliseconds = toMilliseconds(value.mid(8));
+    if (!matches(value.left(8), QLatin1String("99:99:99")) || !milliseconds) {
+        return std::nullopt;
+    }
+    const QTime time(numberAt(value, 0, 2), numberAt(value, 3, 2), numberAt(value, 6, 2), *milliseconds);
+    if (!time.isValid()) {
+        return std::nullopt;
+    }
+    return time;
+}
+
+// The text of an item, or nothing when there is no such item.
+std::optional<QString> itemText(EItem item, const QString& name, const QDomElement& element)
+{
+    if (item == EItem::Element) {
+        const QDomElement child = element.firstChildElement(name);
+        return child.isNull() ? std::nullopt : std::optional<QString>(child.text());
+    }
+    QString text = element.attribute(name);
+    // Only an empty text leaves open whether the attribute is there; all others cost one look-up.
+    if (text.isEmpty() && !element.hasAttribute(name)) {
+        return std::nullopt;
+    }
+    return text;
+}
+
+// Reporting form for texts.
+CDomDoc::EResult readText(
+    EItem item, const QString& name, const QDomElement& element, QString& value, QString& errorText)
+{
+    std::optional<QString> text = itemText(item, name, element);
+    if (!text) {
+        errorText = missingMessage(item, name, element);
+        return CDomDoc::EResult::Missing;
+    }
+    value = *std::move(text);
+    return CDomDoc::EResult::Success;
+}
+
+// Reporting form for everything else: `convert` turns a text into an optional value, `expected` says what it accepts.
+template <typename Value, typename Convert, typename Expected>
+CDomDoc::EResult readValue(
+    EItem item, const QString& name, const QDomElement& element, Value& value, QString& errorText, Convert convert,
+    Expected expected)
+{
+    QString text;
+    const CDomDoc::EResult found = readText(item, name, element, text, errorText);
+    if (!CDomDoc::success(found)) {
+        return found;
+    }
+    const std::optional<Value> converted = convert(text);
+    if (!converted) {
+        errorText = wrongMessage(item, name, element, text, expected());
+        return CDomDoc::EResult::NotConvertible;
+    }
+    value = *converted;
+    return CDomDoc::EResult::Success;
+}
+
+// Reporting form for numbers.
+template <typename Number>
+CDomDoc::EResult readNumber(
+    EItem item, const QString& name, const QDomElement& element, Number& value, QString& errorText, int base)
+{
+    return readValue(
+        item, name, element, value, errorText, [base](const QString& text) { return toNumber<Number>(text, base); },
+        [base] { return number(std::numeric_limits<Number>::digits, base); });
+}
+
+// Defaulting form.
+template <typename Value, typename Convert>
+Value valueOr(EItem item, const QString& name, const QDomElement& element, const Value& defaultValue, Convert convert)
+{
+    const std::optional<QString> text = itemText(item, name, element);
+    return text ? convert(*text).value_or(defaultValue) : defaultValue;
+}
+
+// Defaulting form for numbers.
+template <typename Number>
+Number numberOr(const QString& name, const QDomElement& element, Number defaultValue, int base)
+{
+    return valueOr(EItem::Attribute, name, element, defaultValue, [base](const QString& text) {
+        return toNumber<Number>(text, base);
+    });
+}
+} // namespace
+
+CDomDoc::CDomDoc() = default;
+
+bool CDomDoc::success(EResult result)
+{
+    return result == EResult::Success;
+}
+
+CDomDoc::EResult CDomDoc::existingSubElement(
+    const QString& name, const QDomElement& element, QDomElement& value, QString& errorText)
+{
+    const QDomElement child = element.firstChildElement(name);
+    if (child.isNull()) {
+        errorText = missingMessage(EItem::Element, name, element);
+        return EResult::Missing;
+    }
+    value = child;
+    return EResult::Success;
+}
+
+QDomElement CDomDoc::existingSubElement(const QString& name, const QDomElement& element)
+{
+    return element.firstChildElement(name);
+}
+
+CDomDoc::EResult CDomDoc::existingSubElementAsString(
+    const QString& name, const QDomElement& element, QString& value, QString& errorText)
+{
+    return readText(EItem::Element, name, element, value, errorText);
+}
+
+QString CDomDoc::existingSubElementAsString(
+    const QString& name, const QDomElement& element, const QString& defaultValue)
+{
+    return itemText(EItem::Element, name, element).value_or(defaultValue);
+}
+
+CDomDoc::EResult CDomDoc::existingSubElementAsU32(
+    const QString& name, const QDomElement& element, unsigned int& value, QString& errorText, int base)
+{
+    return readNumber(EItem::Element, name, element, value, errorText, base);
+}
+
+QDate CDomDoc::existingSubElementAsDate(const QString& name, const QDomElement& element, const QDate& defaultValue)
+{
+    return valueOr(EItem::Element, name, element, defaultValue, toDate);
+}
+
+CDomDoc::EResult CDomDoc::existingAttribute(
+    const QString& name, const QDomElement& element, QString& value, QString& errorText)
+{
+    return readText(EItem::Attribute, name, element, value, errorText);
+}
+
+QString CDomDoc::existingAttribute(const QString& name, const QDomElement& element, const QString& defaultValue)
+{
+    return element.attribute(name, defaultValue);
+}
+
+CDomDoc::EResult CDomDoc::existingAttributeAsU8(
+    const QString& name, const QDomElement& element, unsigned char& value, QString& errorText, int base)
+{
+    return readNumber(EItem::Attribute, name, element, value, errorText, base);
+}
+
+unsigned char CDomDoc::existingAttributeAsU8(
+    const QString& name, const QDomElement& element, unsigned char defaultValue, int base)
+{
+    return numberOr(name, element, defaultValue, base);
+}
+
+CDomDoc::EResult CDomDoc::existingAttributeAsU32(
+    const QString& name, const QDomElement& element, unsigned int& value, QString& errorText, int base)
+{
+    return readNumber(EItem::Attribute, name, element, value, errorText, base);
+}
+
+unsigned int CDomDoc::existingAttributeAsU32(
+    const QString& name, const QDomElement& element, unsigned int defaultValue, int base)
+{
+    return numberOr(name, element, defaultValue, base);
+}
+
+CDomDoc::EResult CDomDoc::existingAttributeAsBool(
+    const QString& name, const QDomElement& element, bool& value, QString& errorText, const QString& trueText,
+    const QString& falseText)
+{
+    return readValue(
+        EItem::Attribute, name, element, value, errorText,
+        [&](const QString& text) { return toBool(text, trueText, falseText); },
+        [&] { return boolean(trueText, falseText); });
+}
+
+bool CDomDoc::existingAttributeAsBool(
+    const QString& name, const QDomElement& element, bool defaultValue, const QString& trueText,
+    const QString& falseText)
+{
+    return valueOr(EItem::Attribute, name, element, defaultValue, [&](const QString& text) {
+        return toBool(text, trueText, falseText);
+    });
+}
+
+CDomDoc::EResult CDomDoc::existingAttributeAsDate(
+    const QString& name, const QDomElement& element, QDate& value, QString& errorText)
+{
+    return readValue(EItem::Attribute, name, element, value, errorText, toDate, date);
+}
+
+QDate CDomDoc::existingAttributeAsDate(const QString& name, const QDomElement& element, const QDate& defaultValue)
+{
+    return valueOr(EItem::Attribute, name, element, defaultValue, toDate);
+}
+
+QTime CDomDoc::existingAttributeAsTime(const QString& name, const QDomElement& element, const QTime& defaultValue)
+{
+    return valueOr(EItem::Attribute, name, element, defaultValue, toTime);
+}

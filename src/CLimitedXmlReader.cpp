@@ -1,0 +1,211 @@
+#include "CLimitedXmlReader.h"
+
+#include <QCoreApplication>
+#include <QDomDocument>
+#include <QVector>
+#include <QXmlContentHandler>
+#include <QXmlInputSource>
+#include <QXmlLexicalHandler>
+#include <QXmlSimpleReader>
+
+// This parser is what builds a QDomDocument in Qt 5. Deprecated or not, there is no other to put the limits into.
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+
+namespace
+{
+// The characters of the file, of which the last but one tells how a document type declaration goes on.
+class CSource final : public QXmlInputSource
+{
+public:
+    using QXmlInputSource::QXmlInputSource;
+
+    QChar next() override
+    {
+        const QChar character = QXmlInputSource::next();
+        if (character.unicode() != EndOfData) { // The end of a block that was read, not a character of the file
+            mPrevious = mLast;
+            mLast = character;
+        }
+        return character;
+    }
+
+    QChar previous() const
+    {
+        return mPrevious;
+    }
+
+private:
+    QChar mPrevious;
+    QChar mLast;
+};
+
+// Stands between the parser and the handlers that build the document, counts, and forwards every event unchanged.
+class CGuard final : public QXmlSimpleReader, private QXmlContentHandler, private QXmlLexicalHandler
+{
+public:
+    explicit CGuard(const CSource& source)
+        : mSource(source)
+    {
+        // What QDomDocument::setContent sets for a document with namespace processing.
+        setFeature(QLatin1String("http://xml.org/sax/features/namespaces"), true);
+        setFeature(QLatin1String("http://xml.org/sax/features/namespace-prefixes"), false);
+        setFeature(QLatin1String("http://qt-project.org/xml/features/report-whitespace-only-CharData"), false);
+    }
+
+    void setContentHandler(QXmlContentHandler* handler) override
+    {
+        mContentHandler = handler;
+        QXmlSimpleReader::setContentHandler(this);
+    }
+
+    void setLexicalHandler(QXmlLexicalHandler* handler) override
+    {
+        mLexicalHandler = handler;
+        QXmlSimpleReader::setLexicalHandler(this);
+    }
+
+private:
+    bool refuse(const QString& reason)
+    {
+        mRefusal = reason;
+        return false;
+    }
+
+    // The parser reports the namespace declarations of an element before the element itself.
+    bool startPrefixMapping(const QString& prefix, const QString& uri) override
+    {
+        if (++mNamespaces > CLimitedXmlReader::MAX_NAMESPACES) {
+            return refuse(
+                QCoreApplication::translate("CIso15745Impl", "more than %1 namespace declarations are in force")
+                    .arg(CLimitedXmlReader::MAX_NAMESPACES));
+        }
+        return mContentHandler->startPrefixMapping(prefix, uri);
+    }
+
+    bool startElement(
+        const QString& namespaceURI, const QString& localName, const QString& qName,
+        const QXmlAttributes& attributes) override
+    {
+        if (mOpenElements.size() == CLimitedXmlReader::MAX_DEPTH) {
+            return refuse(QCoreApplication::translate("CIso15745Impl", "elements are nested deeper than %1 levels")
+                              .arg(CLimitedXmlReader::MAX_DEPTH));
+        }
+        if (attributes.count() > CLimitedXmlReader::MAX_ATTRIBUTES) {
+            return refuse(QCoreApplication::translate("CIso15745Impl", "an element has more than %1 attributes")
+                              .arg(CLimitedXmlReader::MAX_ATTRIBUTES));
+        }
+        mOpenElements.append(mNamespaces);
+        return mContentHandler->startElement(namespaceURI, localName, qName, attributes);
+    }
+
+    bool endElement(const QString& namespaceURI, const QString& localName, const QString& qName) override
+    {
+        mOpenElements.removeLast();
+        mNamespaces = mOpenElements.isEmpty() ? 0 : mOpenElements.last();
+        return mContentHandler->endElement(namespaceURI, localName, qName);
+    }
+
+    bool startDTD(const QString& name, const QString& publicId, const QString& systemId) override
+    {
+        // The parser comes here when it has taken the character after the "[" that opens an internal subset, or else
+        // after the ">" that ends the declaration.
+        if (mSource.previous() == QLatin1Char('[')) {
+            return refuse(
+                QCoreApplication::translate("CIso15745Impl", "the document type declaration has an internal subset"));
+        }
+        return mLexicalHandler->startDTD(name, publicId, systemId);
+    }
+
+    void setDocumentLocator(QXmlLocator* locator) override
+    {
+        mContentHandler->setDocumentLocator(locator);
+    }
+
+    bool startDocument() override
+    {
+        return mContentHandler->startDocument();
+    }
+
+    bool endDocument() override
+    {
+        return mContentHandler->endDocument();
+    }
+
+    bool endPrefixMapping(const QString& prefix) override
+    {
+        return mContentHandler->endPrefixMapping(prefix);
+    }
+
+    bool characters(const QString& text) override
+    {
+        return mContentHandler->characters(text);
+    }
+
+    bool ignorableWhitespace(const QString& text) override
+    {
+        return mContentHandler->ignorableWhitespace(text);
+    }
+
+    bool processingInstruction(const QString& target, const QString& data) override
+    {
+        return mContentHandler->processingInstruction(target, data);
+    }
+
+    bool skippedEntity(const QString& name) override
+    {
+        return mContentHandler->skippedEntity(name);
+    }
+
+    bool endDTD() override
+    {
+        return mLexicalHandler->endDTD();
+    }
+
+    bool startEntity(const QString& name) override
+    {
+        return mLexicalHandler->startEntity(name);
+    }
+
+    bool endEntity(const QString& name) override
+    {
+        return mLexicalHandler->endEntity(name);
+    }
+
+    bool startCDATA() override
+    {
+        return mLexicalHandler->startCDATA();
+    }
+
+    bool endCDATA() override
+    {
+        return mLexicalHandler->endCDATA();
+    }
+
+    bool comment(const QString& text) override
+    {
+        return mLexicalHandler->comment(text);
+    }
+
+    QString errorString() const override
+    {
+        return mRefusal.isEmpty() ? mContentHandler->errorString() : mRefusal;
+    }
+
+    const CSource& mSource;
+    QXmlContentHandler* mContentHandler = nullptr;
+    QXmlLexicalHandler* mLexicalHandler = nullptr;
+    QString mRefusal;           // Why the file is refused; empty as long as it is not
+    int mNamespaces = 0;        // Declarations in force, including those of the element that comes next
+    QVector<int> mOpenElements; // For each open element, the declarations in force inside it
+};
+} // namespace
+
+bool CLimitedXmlReader::read(QIODevice& device, QDomDocument& document, QString& message, int& line, int& column)
+{
+    CSource source(&device);
+    CGuard guard(source);
+    return document.setContent(&source, &guard, &message, &line, &column);
+}
+
+QT_WARNING_POP

@@ -1,0 +1,3 @@
+#include "EmbeddedSamples.h"
+
+#include "qrc_mvxIso15745Xml.cpp"
