@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <limits>
 #include <optional>
-#include <utility>
 
 namespace
 {
@@ -87,17 +86,50 @@ QString date()
 
 // Conversions: the value of a text, or nothing when the text is not a value of the type.
 
+// The value of a digit in bases up to 36, or a value beyond all of them for a character that is none.
+unsigned int digitValue(QChar character)
+{
+    const ushort code = character.unicode();
+    if (code >= '0' && code <= '9') {
+        return code - '0';
+    }
+    if (code >= 'a' && code <= 'z') {
+        return code - 'a' + 10;
+    }
+    if (code >= 'A' && code <= 'Z') {
+        return code - 'A' + 10;
+    }
+    return 36;
+}
+
+bool hasHexadecimalPrefix(QStringView digits)
+{
+    return digits.size() > 1 && digits[0] == QLatin1Char('0')
+           && (digits[1] == QLatin1Char('x') || digits[1] == QLatin1Char('X'));
+}
+
+// Converts like QString::toUInt, but takes no sign, knows the range of the type, and works without a copy of the text.
 template <typename Number> std::optional<Number> toNumber(const QString& text, int base)
 {
-    const QString digits = text.trimmed();
-    // QString::toUInt would take a sign as part of the number.
-    if (digits.startsWith(QLatin1Char('+')) || digits.startsWith(QLatin1Char('-'))) {
+    QStringView digits = QStringView(text).trimmed();
+    if (base == 0 || base == 16) {
+        if (hasHexadecimalPrefix(digits)) {
+            base = 16;
+            digits = digits.mid(2);
+        } else if (base == 0) {
+            base = digits.startsWith(QLatin1Char('0')) ? 8 : 10;
+        }
+    }
+    if (digits.isEmpty()) {
         return std::nullopt;
     }
-    bool ok = false;
-    const unsigned int value = digits.toUInt(&ok, base);
-    if (!ok || value > std::numeric_limits<Number>::max()) {
-        return std::nullopt;
+    quint64 value = 0;
+    for (const QChar character : digits) {
+        const unsigned int digit = digitValue(character);
+        value = value * static_cast<unsigned int>(base) + digit;
+        if (digit >= static_cast<unsigned int>(base) || value > std::numeric_limits<Number>::max()) {
+            return std::nullopt;
+        }
     }
     return static_cast<Number>(value);
 }
@@ -187,31 +219,29 @@ std::optional<QTime> toTime(const QString& text)
     return time;
 }
 
-// The text of an item, or nothing when there is no such item.
-std::optional<QString> itemText(EItem item, const QString& name, const QDomElement& element)
+// Finds the text of an item. Returns false, with an empty text, when there is no such item.
+bool findText(EItem item, const QString& name, const QDomElement& element, QString& text)
 {
     if (item == EItem::Element) {
         const QDomElement child = element.firstChildElement(name);
-        return child.isNull() ? std::nullopt : std::optional<QString>(child.text());
+        text = child.text();
+        return !child.isNull();
     }
-    QString text = element.attribute(name);
+    text = element.attribute(name);
     // Only an empty text leaves open whether the attribute is there; all others cost one look-up.
-    if (text.isEmpty() && !element.hasAttribute(name)) {
-        return std::nullopt;
-    }
-    return text;
+    return !text.isEmpty() || element.hasAttribute(name);
 }
 
 // Reporting form for texts.
 CDomDoc::EResult readText(
     EItem item, const QString& name, const QDomElement& element, QString& value, QString& errorText)
 {
-    std::optional<QString> text = itemText(item, name, element);
-    if (!text) {
+    QString text;
+    if (!findText(item, name, element, text)) {
         errorText = missingMessage(item, name, element);
         return CDomDoc::EResult::Missing;
     }
-    value = *std::move(text);
+    value = text;
     return CDomDoc::EResult::Success;
 }
 
@@ -222,9 +252,9 @@ CDomDoc::EResult readValue(
     Expected expected)
 {
     QString text;
-    const CDomDoc::EResult found = readText(item, name, element, text, errorText);
-    if (!CDomDoc::success(found)) {
-        return found;
+    if (!findText(item, name, element, text)) {
+        errorText = missingMessage(item, name, element);
+        return CDomDoc::EResult::Missing;
     }
     const std::optional<Value> converted = convert(text);
     if (!converted) {
@@ -245,21 +275,11 @@ CDomDoc::EResult readNumber(
         [base] { return number(std::numeric_limits<Number>::digits, base); });
 }
 
-// Defaulting form.
-template <typename Value, typename Convert>
-Value valueOr(EItem item, const QString& name, const QDomElement& element, const Value& defaultValue, Convert convert)
-{
-    const std::optional<QString> text = itemText(item, name, element);
-    return text ? convert(*text).value_or(defaultValue) : defaultValue;
-}
-
-// Defaulting form for numbers.
+// Defaulting form for numbers. An absent attribute reads as an empty text, which is not a number either.
 template <typename Number>
 Number numberOr(const QString& name, const QDomElement& element, Number defaultValue, int base)
 {
-    return valueOr(EItem::Attribute, name, element, defaultValue, [base](const QString& text) {
-        return toNumber<Number>(text, base);
-    });
+    return toNumber<Number>(element.attribute(name), base).value_or(defaultValue);
 }
 } // namespace
 
@@ -296,7 +316,8 @@ CDomDoc::EResult CDomDoc::existingSubElementAsString(
 QString CDomDoc::existingSubElementAsString(
     const QString& name, const QDomElement& element, const QString& defaultValue)
 {
-    return itemText(EItem::Element, name, element).value_or(defaultValue);
+    QString text;
+    return findText(EItem::Element, name, element, text) ? text : defaultValue;
 }
 
 CDomDoc::EResult CDomDoc::existingSubElementAsU32(
@@ -307,7 +328,7 @@ CDomDoc::EResult CDomDoc::existingSubElementAsU32(
 
 QDate CDomDoc::existingSubElementAsDate(const QString& name, const QDomElement& element, const QDate& defaultValue)
 {
-    return valueOr(EItem::Element, name, element, defaultValue, toDate);
+    return toDate(element.firstChildElement(name).text()).value_or(defaultValue);
 }
 
 CDomDoc::EResult CDomDoc::existingAttribute(
@@ -359,9 +380,9 @@ bool CDomDoc::existingAttributeAsBool(
     const QString& name, const QDomElement& element, bool defaultValue, const QString& trueText,
     const QString& falseText)
 {
-    return valueOr(EItem::Attribute, name, element, defaultValue, [&](const QString& text) {
-        return toBool(text, trueText, falseText);
-    });
+    QString text;
+    return findText(EItem::Attribute, name, element, text) ? toBool(text, trueText, falseText).value_or(defaultValue)
+                                                           : defaultValue;
 }
 
 CDomDoc::EResult CDomDoc::existingAttributeAsDate(
@@ -372,10 +393,10 @@ CDomDoc::EResult CDomDoc::existingAttributeAsDate(
 
 QDate CDomDoc::existingAttributeAsDate(const QString& name, const QDomElement& element, const QDate& defaultValue)
 {
-    return valueOr(EItem::Attribute, name, element, defaultValue, toDate);
+    return toDate(element.attribute(name)).value_or(defaultValue);
 }
 
 QTime CDomDoc::existingAttributeAsTime(const QString& name, const QDomElement& element, const QTime& defaultValue)
 {
-    return valueOr(EItem::Attribute, name, element, defaultValue, toTime);
+    return toTime(element.attribute(name)).value_or(defaultValue);
 }

@@ -183,7 +183,7 @@ bool CIso15745Impl::openFile(const QString& fileName, QString& errorText)
 
 bool CIso15745Impl::parseRootFromDOM(const QDomElement& root, QString& errorText)
 {
-    if (root.tagName() != TAG_PROFILE_CONTAINER) {
+    if (root.tagName() != QString(TAG_PROFILE_CONTAINER)) {
         errorText =
             QCoreApplication::translate(
                 "CIso15745Impl", "This is not an ISO15745 xdd file. RootTagName is \"%1\", but should be \"%2\".")
@@ -512,11 +512,11 @@ bool CIso15745Impl::parseCanObjectFromDOM(const QDomElement& element, CCanOpenOb
 
     QDomElement child = CDomDoc::existingSubElement(TAG_CAN_OPEN_SUB_OBJECT, element);
     while (!child.isNull()) {
-        CCanOpenSubObject subObject;
-        if (!parseCanSubObjectFromDOM(child, subObject, errorText)) {
+        object.mSubObjects.append(CCanOpenSubObject());
+        if (!parseCanSubObjectFromDOM(child, object.mSubObjects.last(), errorText)) {
+            object.mSubObjects.removeLast();
             return false;
         }
-        object.mSubObjects.append(subObject);
         child = child.nextSiblingElement(TAG_CAN_OPEN_SUB_OBJECT);
     }
     return true;

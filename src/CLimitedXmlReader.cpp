@@ -14,7 +14,8 @@ QT_WARNING_DISABLE_DEPRECATED
 
 namespace
 {
-// The characters of the file, of which the last but one tells how a document type declaration goes on.
+// The characters of the file. They are handed out as QXmlInputSource does it, but with the last ones in reach: those
+// tell how a document type declaration goes on.
 class CSource final : public QXmlInputSource
 {
 public:
@@ -22,22 +23,42 @@ public:
 
     QChar next() override
     {
-        const QChar character = QXmlInputSource::next();
-        if (character.unicode() != EndOfData) { // The end of a block that was read, not a character of the file
-            mPrevious = mLast;
-            mLast = character;
-        }
-        return character;
+        return mNext == mEnd ? nextBlock() : *mNext++;
     }
 
+    // Called with every block that is read from the file.
+    void setData(const QString& data) override
+    {
+        mLastOfBlock = mBlock.isEmpty() ? QChar() : mBlock.back();
+        mBlock = data;
+        mBlock.replace(QChar(EndOfData), QChar(EndOfDocument)); // As a character of the file it ends the document.
+        mNext = mBlock.constBegin();
+        mEnd = mBlock.constEnd();
+    }
+
+    // The last character but one that was handed out.
     QChar previous() const
     {
-        return mPrevious;
+        return mNext - mBlock.constBegin() > 1 ? *(mNext - 2) : mLastOfBlock;
     }
 
 private:
-    QChar mPrevious;
-    QChar mLast;
+    // The parser is told of the end of a block before the next one is read.
+    QChar nextBlock()
+    {
+        mBlockEnded = !mBlockEnded;
+        if (mBlockEnded) {
+            return EndOfData;
+        }
+        fetchData();
+        return mNext == mEnd ? QChar(EndOfDocument) : next();
+    }
+
+    QString mBlock;
+    const QChar* mNext = nullptr;
+    const QChar* mEnd = nullptr;
+    bool mBlockEnded = true; // There is no block yet
+    QChar mLastOfBlock;      // Of the block before this one
 };
 
 // Stands between the parser and the handlers that build the document, counts, and forwards every event unchanged.
