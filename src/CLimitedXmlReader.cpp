@@ -3,9 +3,8 @@
 #include <QCoreApplication>
 #include <QDomDocument>
 #include <QVector>
-#include <QXmlContentHandler>
+#include <QXmlDefaultHandler>
 #include <QXmlInputSource>
-#include <QXmlLexicalHandler>
 #include <QXmlSimpleReader>
 
 // This parser is what builds a QDomDocument in Qt 5. Deprecated or not, there is no other to put the limits into.
@@ -29,17 +28,17 @@ public:
     // Called with every block that is read from the file.
     void setData(const QString& data) override
     {
-        mLastOfBlock = mBlock.isEmpty() ? QChar() : mBlock.back();
+        mLastBefore = lastInBlock(mEnd);
         mBlock = data;
         mBlock.replace(QChar(EndOfData), QChar(EndOfDocument)); // As a character of the file it ends the document.
         mNext = mBlock.constBegin();
         mEnd = mBlock.constEnd();
     }
 
-    // The last character but one that was handed out.
+    // The last character before the one that was handed out last, white space left out.
     QChar previous() const
     {
-        return mNext - mBlock.constBegin() > 1 ? *(mNext - 2) : mLastOfBlock;
+        return mNext == mBlock.constBegin() ? mLastBefore : lastInBlock(mNext - 1);
     }
 
 private:
@@ -54,15 +53,24 @@ private:
         return mNext == mEnd ? QChar(EndOfDocument) : next();
     }
 
+    // The last character of the block in front of `end`, white space left out; of the blocks before if there is none.
+    QChar lastInBlock(const QChar* end) const
+    {
+        while (end != mBlock.constBegin() && (end - 1)->isSpace()) {
+            --end;
+        }
+        return end == mBlock.constBegin() ? mLastBefore : *(end - 1);
+    }
+
     QString mBlock;
-    const QChar* mNext = nullptr;
-    const QChar* mEnd = nullptr;
+    const QChar* mNext = mBlock.constBegin();
+    const QChar* mEnd = mBlock.constEnd();
     bool mBlockEnded = true; // There is no block yet
-    QChar mLastOfBlock;      // Of the block before this one
+    QChar mLastBefore;       // The last character of the blocks before this one, white space left out
 };
 
 // Stands between the parser and the handlers that build the document, counts, and forwards every event unchanged.
-class CGuard final : public QXmlSimpleReader, private QXmlContentHandler, private QXmlLexicalHandler
+class CGuard final : public QXmlSimpleReader, private QXmlDefaultHandler
 {
 public:
     explicit CGuard(const CSource& source)
@@ -129,8 +137,8 @@ private:
 
     bool startDTD(const QString& name, const QString& publicId, const QString& systemId) override
     {
-        // The parser comes here when it has taken the character after the "[" that opens an internal subset, or else
-        // after the ">" that ends the declaration.
+        // The parser comes here when it has taken the first character after the "[" that opens an internal subset and
+        // the white space behind it, or else the ">" that ends the declaration.
         if (mSource.previous() == QLatin1Char('[')) {
             return refuse(
                 QCoreApplication::translate("CIso15745Impl", "the document type declaration has an internal subset"));

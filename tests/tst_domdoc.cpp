@@ -1,0 +1,325 @@
+#include <CDomDoc.h>
+#include <XmlValues.h>
+
+#include <QtTest>
+
+// The typed access to elements and attributes.
+class TestDomDoc : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void numbers_data();
+    void numbers();
+    void booleans_data();
+    void booleans();
+    void dates_data();
+    void dates();
+    void times_data();
+    void times();
+    void elements();
+    void messages_data();
+    void messages();
+    void failureKeepsTheOutput();
+};
+
+namespace
+{
+QString latin1(const char* text)
+{
+    return QString::fromLatin1(text);
+}
+
+// The element <e> with the attribute a="value" and the child <c>value</c>, on line 2.
+QDomElement elementWith(const QString& value)
+{
+    static QDomDocument document; // The last one, which keeps the element alive
+    document = QDomDocument();
+    QDomElement element = document.createElement(QStringLiteral("e"));
+    document.appendChild(element);
+    element.setAttribute(QStringLiteral("a"), value);
+    QDomElement child = document.createElement(QStringLiteral("c"));
+    child.appendChild(document.createTextNode(value));
+    element.appendChild(child);
+    return element;
+}
+
+QDomElement rootOf(const char* text)
+{
+    static CDomDoc document;
+    if (!document.setContent(QByteArray(text), true)) {
+        qFatal("Not well-formed: %s", text);
+    }
+    return document.documentElement();
+}
+} // namespace
+
+void TestDomDoc::numbers_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("base");
+    QTest::addColumn<qint64>("value"); // -1 for a text that does not convert
+
+    const auto row = [](const char* text, int base, qint64 value) {
+        QTest::addRow("%s base %d", text, base) << latin1(text) << base << value;
+    };
+    row("1000", 16, 0x1000);
+    row("0x1000", 16, 0x1000);
+    row("0X1a", 16, 0x1A);
+    row("1A00", 16, 0x1A00);
+    row("FFFFFFFF", 16, 0xFFFFFFFF);
+    row("100000000", 16, -1);
+    row("0x", 16, -1);
+    row("00x1", 16, -1);
+    row("G", 16, -1);
+    row("1000", 0, 1000);
+    row("0x1000", 0, 0x1000);
+    row("0010", 0, 8);
+    row("0007", 0, 7);
+    row("0", 0, 0);
+    row("0009", 0, -1);
+    row("001B", 0, -1);
+    row("1A", 0, -1);
+    row("255", 0, 255);
+    row("256", 0, 256);
+    row("4294967295", 0, 4294967295);
+    row("4294967296", 0, -1);
+    row("18446744073709551617", 0, -1);
+    row("99999999999999999999999999", 0, -1);
+    row(" \t7\n", 0, 7);
+    row("+7", 0, -1);
+    row("-7", 0, -1);
+    row("- 7", 0, -1);
+    row("1.0", 0, -1);
+    row("1,000", 0, -1);
+    row("7 7", 0, -1);
+    row("7x", 0, -1);
+    row("x7", 0, -1);
+    row("", 0, -1);
+    row(" ", 16, -1);
+    QTest::addRow("Arabic digit") << QString(QChar(0x0667)) << 0 << qint64(-1);
+    QTest::addRow("full width digit") << QString(QChar(0xFF17)) << 0 << qint64(-1);
+    QTest::addRow("NUL") << latin1("7") + QChar() << 0 << qint64(-1);
+}
+
+void TestDomDoc::numbers()
+{
+    QFETCH(QString, text);
+    QFETCH(int, base);
+    QFETCH(qint64, value);
+    const QDomElement element = elementWith(text);
+    const bool fits8 = value >= 0 && value <= 255;
+    const qint64 byDefault = 99;
+
+    unsigned int u32 = 99;
+    unsigned char u8 = 99;
+    QString error;
+    QCOMPARE(CDomDoc::success(CDomDoc::existingAttributeAsU32(latin1("a"), element, u32, error, base)), value >= 0);
+    QCOMPARE(qint64(u32), value < 0 ? byDefault : value);
+    QCOMPARE(error.isEmpty(), value >= 0);
+    u32 = 99;
+    QCOMPARE(CDomDoc::success(CDomDoc::existingSubElementAsU32(latin1("c"), element, u32, error, base)), value >= 0);
+    QCOMPARE(qint64(u32), value < 0 ? byDefault : value);
+    QCOMPARE(CDomDoc::success(CDomDoc::existingAttributeAsU8(latin1("a"), element, u8, error, base)), fits8);
+    QCOMPARE(qint64(u8), fits8 ? value : byDefault);
+    QCOMPARE(qint64(CDomDoc::existingAttributeAsU32(latin1("a"), element, 99U, base)), value < 0 ? byDefault : value);
+    QCOMPARE(qint64(CDomDoc::existingAttributeAsU8(latin1("a"), element, u8, base)), fits8 ? value : byDefault);
+}
+
+void TestDomDoc::booleans_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("value"); // -1 for a text that does not convert
+    QTest::newRow("true") << latin1("true") << 1;
+    QTest::newRow("false") << latin1("false") << 0;
+    QTest::newRow("blanks") << latin1(" true ") << 1;
+    QTest::newRow("upper case") << latin1("True") << -1;
+    QTest::newRow("number") << latin1("1") << -1;
+    QTest::newRow("empty") << QString() << -1;
+}
+
+void TestDomDoc::booleans()
+{
+    QFETCH(QString, text);
+    QFETCH(int, value);
+    const QDomElement element = elementWith(text);
+    for (const bool byDefault : {false, true}) {
+        bool read = byDefault;
+        QString error;
+        const auto result =
+            CDomDoc::existingAttributeAsBool(latin1("a"), element, read, error, VALUE_TRUE, VALUE_FALSE);
+        QCOMPARE(CDomDoc::success(result), value >= 0);
+        QCOMPARE(read, value < 0 ? byDefault : value == 1);
+        QCOMPARE(CDomDoc::existingAttributeAsBool(latin1("a"), element, byDefault, VALUE_TRUE, VALUE_FALSE), read);
+        // An absent attribute is no empty text, even where the empty text is one of the two.
+        QCOMPARE(CDomDoc::existingAttributeAsBool(latin1("b"), element, false, QString(), VALUE_FALSE), false);
+    }
+}
+
+void TestDomDoc::dates_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QDate>("value");
+    const QDate date(2011, 10, 5);
+    for (const char* text : {"2011-10-05", " 2011-10-05\n", "2011-10-05Z", "2011-10-05+02:00", "2011-10-05-14:00"}) {
+        QTest::newRow(text) << latin1(text) << date;
+    }
+    for (const char* text :
+         {"", "2011/10/05", "05.10.2011", "2011-10-5", "2011-13-05", "2011-02-29", "0000-01-01", "2011-10-05 09:00",
+          "2011-10-05x", "2011-10-05+14:01", "2011-10-05+02:60", "2011-10-05+2:00", "20111-10-05", "-2011-10-05",
+          "+011-10-05"}) {
+        QTest::newRow(*text == '\0' ? "empty" : text) << latin1(text) << QDate();
+    }
+}
+
+void TestDomDoc::dates()
+{
+    QFETCH(QString, text);
+    QFETCH(QDate, value);
+    const QDomElement element = elementWith(text);
+    const QDate byDefault(1999, 1, 1);
+    const QDate expected = value.isValid() ? value : byDefault;
+    QDate read = byDefault;
+    QString error;
+    QCOMPARE(CDomDoc::success(CDomDoc::existingAttributeAsDate(latin1("a"), element, read, error)), value.isValid());
+    QCOMPARE(read, expected);
+    QCOMPARE(CDomDoc::existingAttributeAsDate(latin1("a"), element, byDefault), expected);
+    QCOMPARE(CDomDoc::existingSubElementAsDate(latin1("c"), element, byDefault), expected);
+}
+
+void TestDomDoc::times_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QTime>("value");
+    const auto row = [](const char* text, const QTime& value) {
+        QTest::newRow(*text == '\0' ? "empty" : text) << latin1(text) << value;
+    };
+    for (const char* text :
+         {"11:06:00", " 11:06:00 ", "11:06:00Z", "11:06:00+02:00", "11:06:00-05:30", "11:06:00.0000000+01:00"}) {
+        row(text, QTime(11, 6));
+    }
+    row("11:06:00.5+02:00", QTime(11, 6, 0, 500));
+    row("11:06:00.12345", QTime(11, 6, 0, 123));
+    row("23:59:59.9999", QTime(23, 59, 59, 999));
+    for (const char* text :
+         {"", "11:06", "11:06:0", "11:06:00x", "24:00:00", "11:60:00", "11:06:00.", "11:06:00.5.5", "9:48:42 PM"}) {
+        row(text, QTime());
+    }
+}
+
+void TestDomDoc::times()
+{
+    QFETCH(QString, text);
+    QFETCH(QTime, value);
+    const QTime byDefault(1, 2, 3);
+    QCOMPARE(
+        CDomDoc::existingAttributeAsTime(latin1("a"), elementWith(text), byDefault),
+        value.isValid() ? value : byDefault);
+}
+
+void TestDomDoc::elements()
+{
+    const QDomElement root = rootOf("<r><x><n>grandchild</n></x>text<N/><p:n "
+                                    "xmlns:p='u'>fir<b>s</b>t</p:n><n>second</n><empty/><blank> </blank></r>");
+    const QDomElement first = CDomDoc::existingSubElement(latin1("n"), root);
+    QCOMPARE(first.text(), latin1("first"));
+    QCOMPARE(first.nextSiblingElement(latin1("n")).text(), latin1("second"));
+    QVERIFY(CDomDoc::existingSubElement(latin1("absent"), root).isNull());
+
+    QString text = latin1("before");
+    QString error = latin1("untouched");
+    QVERIFY(CDomDoc::success(CDomDoc::existingSubElementAsString(latin1("empty"), root, text, error)));
+    QCOMPARE(text, QString());
+    QCOMPARE(error, latin1("untouched"));
+    QCOMPARE(CDomDoc::existingSubElementAsString(latin1("empty"), root, latin1("default")), QString());
+    QCOMPARE(CDomDoc::existingSubElementAsString(latin1("absent"), root, latin1("default")), latin1("default"));
+
+    const QDomElement attributes = rootOf("<r a='' b=' b '/>");
+    QVERIFY(CDomDoc::success(CDomDoc::existingAttribute(latin1("a"), attributes, text, error)));
+    QCOMPARE(CDomDoc::existingAttribute(latin1("a"), attributes, latin1("default")), QString());
+    QCOMPARE(CDomDoc::existingAttribute(latin1("b"), attributes, latin1("default")), latin1(" b "));
+    QCOMPARE(CDomDoc::existingAttribute(latin1("B"), attributes, latin1("default")), latin1("default"));
+}
+
+void TestDomDoc::messages_data()
+{
+    using EResult = CDomDoc::EResult;
+    QTest::addColumn<std::function<EResult(const QDomElement&, QString&)>>("read");
+    QTest::addColumn<int>("result");
+    QTest::addColumn<QString>("message");
+
+    const auto row = [](const char* name, EResult result, const char* message, auto read) {
+        QTest::newRow(name) << std::function<EResult(const QDomElement&, QString&)>(read) << static_cast<int>(result)
+                            << latin1("Error while parsing TAG <r> in line 2 : ") + latin1(message);
+    };
+    row("element", EResult::Missing, "Element <no> is missing.", [](const QDomElement& e, QString& error) {
+        QDomElement value;
+        return CDomDoc::existingSubElement(latin1("no"), e, value, error);
+    });
+    row("element text", EResult::Missing, "Element <no> is missing.", [](const QDomElement& e, QString& error) {
+        QString value;
+        return CDomDoc::existingSubElementAsString(latin1("no"), e, value, error);
+    });
+    row("element number", EResult::NotConvertible,
+        "Element <c> is \"%2 %1\", but should be an unsigned 32-bit number in base 0 (hexadecimal after 0x, octal "
+        "after 0, "
+        "otherwise decimal).",
+        [](const QDomElement& e, QString& error) {
+            unsigned int value = 0;
+            return CDomDoc::existingSubElementAsU32(latin1("c"), e, value, error, 0);
+        });
+    row("attribute", EResult::Missing, "Attribute \"no\" is missing.", [](const QDomElement& e, QString& error) {
+        QString value;
+        return CDomDoc::existingAttribute(latin1("no"), e, value, error);
+    });
+    row("attribute number", EResult::NotConvertible,
+        "Attribute \"a\" is \"%5%1\", but should be an unsigned 8-bit number in base 16.",
+        [](const QDomElement& e, QString& error) {
+            unsigned char value = 0;
+            return CDomDoc::existingAttributeAsU8(latin1("a"), e, value, error, 16);
+        });
+    row("boolean", EResult::NotConvertible, "Attribute \"a\" is \"%5%1\", but should be \"true\" or \"false\".",
+        [](const QDomElement& e, QString& error) {
+            bool value = false;
+            return CDomDoc::existingAttributeAsBool(latin1("a"), e, value, error, VALUE_TRUE, VALUE_FALSE);
+        });
+    row("date", EResult::NotConvertible,
+        "Attribute \"a\" is \"%5%1\", but should be a date year-month-day (yyyy-MM-dd).",
+        [](const QDomElement& e, QString& error) {
+            QDate value;
+            return CDomDoc::existingAttributeAsDate(latin1("a"), e, value, error);
+        });
+}
+
+Q_DECLARE_METATYPE(std::function<CDomDoc::EResult(const QDomElement&, QString&)>)
+
+void TestDomDoc::messages()
+{
+    using TRead = std::function<CDomDoc::EResult(const QDomElement&, QString&)>;
+    QFETCH(TRead, read);
+    QFETCH(int, result);
+    QFETCH(QString, message);
+    QString error = latin1("an earlier message");
+    QCOMPARE(static_cast<int>(read(rootOf("<!-- -->\n<r a='%5%1'><c>%2 %1</c></r>"), error)), result);
+    QCOMPARE(error, message);
+}
+
+void TestDomDoc::failureKeepsTheOutput()
+{
+    const QDomElement root = rootOf("<r><c/></r>");
+    QDomElement child = CDomDoc::existingSubElement(latin1("c"), root);
+    QString text = latin1("kept");
+    QString error;
+    QVERIFY(!CDomDoc::success(CDomDoc::existingSubElement(latin1("no"), root, child, error)));
+    QCOMPARE(child.tagName(), latin1("c"));
+    QVERIFY(!CDomDoc::success(CDomDoc::existingAttribute(latin1("no"), root, text, error)));
+    QCOMPARE(text, latin1("kept"));
+    // A message stays readable whatever the file holds.
+    unsigned int number = 0;
+    const QDomElement huge = elementWith(QString(1000000, QLatin1Char('x')));
+    QVERIFY(!CDomDoc::success(CDomDoc::existingAttributeAsU32(latin1("a"), huge, number, error, 0)));
+    QVERIFY(error.size() < 1000 && error.contains(latin1("xxx...\"")));
+}
+
+QTEST_GUILESS_MAIN(TestDomDoc)
+#include "tst_domdoc.moc"

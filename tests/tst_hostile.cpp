@@ -1,0 +1,298 @@
+#include "Description.h"
+
+#include <QDomDocument>
+#include <QTemporaryFile>
+#include <QTextCodec>
+#include <QtTest>
+
+#include <memory>
+#include <random>
+#include <thread>
+
+// Files that are made to do harm, and files that are merely broken.
+class TestHostile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void limits_data();
+    void limits();
+    void aRefusalKeepsTheReader();
+    void sameAsQt_data();
+    void sameAsQt();
+    void mutationsAreSameAsQt();
+    void truncatedEverywhere();
+    void encodings();
+    void manyObjects();
+    void hugeTexts();
+    void threads();
+};
+
+namespace
+{
+QString load(const QByteArray& text)
+{
+    const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
+    QString error;
+    return loadText(*reader, text, error) ? QString() : error;
+}
+
+// The message of a load of a file with this text without its file name, and the one that Qt gives for it.
+void compareWithQt(const QByteArray& text)
+{
+    QTemporaryFile file;
+    if (!file.open() || file.write(text) != text.size() || !file.seek(0)) {
+        qFatal("No temporary file");
+    }
+    QDomDocument document;
+    QString message;
+    int line = 0;
+    int column = 0;
+    const bool parsed = document.setContent(&file, true, &message, &line, &column);
+    const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
+    QString error;
+    reader->load(file.fileName(), error);
+    const QString expected = QStringLiteral("Read file \"%1\": Parse error at line %2, column %3: %4")
+                                 .arg(file.fileName(), QString::number(line), QString::number(column), message);
+    QVERIFY2(
+        parsed ? !error.startsWith(QLatin1String("Read file")) : error == expected,
+        qPrintable(error + QLatin1String(" instead of ") + (parsed ? QString() : expected)));
+}
+
+QByteArray nested(int depth)
+{
+    return QByteArray("<a>").repeated(depth) + QByteArray("</a>").repeated(depth);
+}
+
+QByteArray numbered(const char* pattern, int count)
+{
+    QByteArray text;
+    for (int i = 0; i < count; ++i) {
+        text += QByteArray(pattern).replace('#', QByteArray::number(i));
+    }
+    return text;
+}
+} // namespace
+
+void TestHostile::limits_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("reason"); // Empty for a text within the limits, which has only the wrong root
+    const auto row = [](const char* name, const QByteArray& text, const char* reason) {
+        QTest::newRow(name) << text << QString::fromLatin1(reason);
+    };
+    const char* const deep = "elements are nested deeper than 256 levels";
+    const char* const wide = "an element has more than 256 attributes";
+    const char* const subset = "the document type declaration has an internal subset";
+    const char* const declarations = "more than 64 namespace declarations are in force";
+    row("depth 256", nested(256), "");
+    row("depth 257", nested(257), deep);
+    row("depth without end", QByteArray("<a>").repeated(1000000), deep);
+    row("256 attributes", "<a" + numbered(" a#='1'", 256) + "/>", "");
+    row("257 attributes", "<a" + numbered(" a#='1'", 257) + "/>", wide);
+    row("20,000 attributes", "<a" + numbered(" a#='1'", 20000) + "/>", wide);
+    row("64 namespaces", "<a xmlns='u'" + numbered(" xmlns:a#='u'", 63) + "/>", "");
+    row("65 namespaces", "<a" + numbered(" xmlns:a#='u'", 65) + "/>", declarations);
+    row("namespaces of siblings", "<a>" + numbered("<b xmlns:a#='u'/>", 1000) + "</a>", "");
+    row("nested namespaces", numbered("<a xmlns:a#='u'>", 65), declarations);
+    row("bare declaration", "<!DOCTYPE a><a/>", "");
+    row("external subset", "<!DOCTYPE a SYSTEM \"[\"><a/>", "");
+    row("bracket in an identifier", "<!DOCTYPE a PUBLIC '[' '['  ><a/>", "");
+    row("empty subset", "<!DOCTYPE a []><a/>", subset);
+    row("external and internal subset", "<!DOCTYPE a SYSTEM 's' [ ]><a/>", subset);
+    row("subset that closes at once", "<!DOCTYPE a [>", subset);
+    row("parameter entity", "<!DOCTYPE a[%x;]><a/>", subset);
+    row("white space over many blocks",
+        "<!DOCTYPE a [" + QByteArray("\t\r\n ").repeated(2000) + "<!ELEMENT a ANY>]><a/>", subset);
+    row("content model", "<!DOCTYPE a [<!ELEMENT a " + QByteArray("(").repeated(200000), subset);
+    row("entities", "<!DOCTYPE a [" + numbered("<!ENTITY e# 'x'>", 20000) + "]><a/>", subset);
+    row("entity bomb",
+        "<!DOCTYPE a [<!ENTITY b '" + QByteArray("x").repeated(4000) + "'>]><a>" + QByteArray("&b;").repeated(20000)
+            + "</a>",
+        subset);
+    // The bracket is the last character of a block that is read from the file, and then the first of the next one.
+    for (const int size : {1023, 1024, 1025}) {
+        const QByteArray start = "<!DOCTYPE a";
+        QTest::addRow("block of %d", size)
+            << start + QByteArray(" ").repeated(size - start.size() - 1) + "[<!ELEMENT a (a)>]><a/>"
+            << QString::fromLatin1(subset);
+    }
+}
+
+void TestHostile::limits()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, reason);
+    const QString error = load(text);
+    if (reason.isEmpty()) {
+        QVERIFY2(error.startsWith(QLatin1String("This is not an ISO15745 xdd file.")), qPrintable(error));
+    } else {
+        QVERIFY2(error.startsWith(QLatin1String("Read file \"")), qPrintable(error));
+        QVERIFY2(error.endsWith(QLatin1String(": ") + reason), qPrintable(error));
+    }
+}
+
+void TestHostile::aRefusalKeepsTheReader()
+{
+    const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
+    QString error;
+    QVERIFY(loadText(*reader, description(), error));
+    QVERIFY(!loadText(*reader, nested(300), error));
+    QVERIFY(error.contains(QLatin1String("Parse error at line 1, column 771: elements are nested")));
+    QCOMPARE(reader->getObjList().size(), 2);
+    QCOMPARE(reader->deviceProfile().mVendorName.mValue, QStringLiteral("Vendor"));
+}
+
+void TestHostile::sameAsQt_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    const auto row = [](const char* name, const QByteArray& text) {
+        QTest::newRow(name) << text;
+    };
+    row("nothing", "");
+    row("white space", " \n ");
+    row("no XML", "index;name");
+    row("NUL", QByteArray("<a>\0</a>", 8));
+    row("end of block as a character", "<a>\xEF\xBF\xBE</a>");
+    row("end of document as a character", "<a>\xEF\xBF\xBF</a>");
+    row("invalid UTF-8", "<a b='\xFF\xFE\xC3'>\xE2\x82</a>");
+    row("lone surrogates", "<a>\xED\xA0\x80</a>");
+    row("two roots", "<a/><b/>");
+    row("undeclared entity", "<a>&b;</a>");
+    row("undeclared entities after a declaration", "<!DOCTYPE a SYSTEM 's'><a b='&c;'>&d;</a>");
+    row("undeclared prefix", "<x:a/>");
+    row("duplicate attribute", "<a b='1' b='2'/>");
+    row("comment without end", "<a><!-- ");
+    row("long lines", "<a>" + QByteArray("x").repeated(100000) + "<");
+    row("endings", "<a>\r\n\r\n<b>\r</a>");
+    row("encoding unknown", "<?xml version='1.0' encoding='nonsense'?><a>\xFF</a>");
+    row("encoding that does not fit", "<?xml version='1.0' encoding='UTF-16'?><a/>");
+    row("standalone", "<?xml version='1.0' standalone='maybe'?><a/>");
+    row("processing instruction", "<?php <a> ?><a/><?x");
+    row("CDATA", "<a><![CDATA[ ]] ]]></b>");
+    row("name of a megabyte", "<" + QByteArray("n").repeated(1000000));
+}
+
+void TestHostile::sameAsQt()
+{
+    QFETCH(QByteArray, text);
+    compareWithQt(text);
+}
+
+// Descriptions with a few bytes changed, removed or repeated; always the same ones.
+void TestHostile::mutationsAreSameAsQt()
+{
+    std::minstd_rand random(1);
+    const QByteArray bytes("<>&;'\"/![]?-=\0\x80\xFF x", 20);
+    for (int round = 0; round < 1000; ++round) {
+        QByteArray text = description();
+        for (unsigned int change = random() % 4; change < 4; ++change) {
+            const int position = int(random() % unsigned(text.size()));
+            switch (random() % 3) {
+            case 0:
+                text[position] = bytes.at(int(random() % unsigned(bytes.size())));
+                break;
+            case 1:
+                text.remove(position, int(random() % 20));
+                break;
+            default:
+                text.insert(position, text.mid(int(random() % unsigned(text.size())), int(random() % 20)));
+            }
+        }
+        compareWithQt(text);
+        if (QTest::currentTestFailed()) {
+            qWarning("in round %d", round);
+            return;
+        }
+    }
+}
+
+void TestHostile::truncatedEverywhere()
+{
+    const QByteArray text = description();
+    for (int size = 0; size < text.trimmed().size(); ++size) {
+        QVERIFY2(load(text.left(size)).startsWith(QLatin1String("Read file \"")), qPrintable(QString::number(size)));
+    }
+}
+
+// Whatever Qt's codecs make of a description, it loads as in UTF-8 or gives a message.
+void TestHostile::encodings()
+{
+    for (const QByteArray& name : QTextCodec::availableCodecs()) {
+        const QByteArray text = changed(description(), "encoding=\"UTF-8\"", "encoding=\"" + name + '"');
+        QTextCodec* const codec = QTextCodec::codecForName(name);
+        QVERIFY(codec != nullptr);
+        for (const QByteArray& encoded : {codec->fromUnicode(QString::fromUtf8(text)), text}) {
+            const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
+            QString error;
+            if (loadText(*reader, encoded, error)) {
+                QCOMPARE(reader->getObj(0x1018).mName, QStringLiteral("identity"));
+            } else {
+                QVERIFY2(!error.isEmpty(), name.constData());
+            }
+        }
+    }
+}
+
+void TestHostile::manyObjects()
+{
+    const QByteArray object = "<CANopenObject index=\"2000\" name=\"last\"";
+    QByteArray objects;
+    for (int index = 0; index < 100000; ++index) {
+        objects += "<CANopenObject index='" + QByteArray::number(0x10000 + index, 16) + "' name='x' objectType='7'/>\n";
+    }
+    const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
+    QString error;
+    QVERIFY2(loadText(*reader, changed(description(), object, objects + object), error), qPrintable(error));
+    QCOMPARE(reader->getObjList().size(), 100002);
+    QCOMPARE(reader->getObj(0x10000 + 99999).mName, QStringLiteral("x"));
+}
+
+void TestHostile::hugeTexts()
+{
+    const QByteArray huge(2000000, 'x');
+    const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
+    QString error;
+    QByteArray text = changed(description(), ">Vendor<", ">" + huge + "<");
+    text = changed(text, "name=\"last\"", "name=\"" + huge + '"');
+    QVERIFY2(loadText(*reader, text, error), qPrintable(error));
+    QCOMPARE(reader->deviceProfile().mVendorName.mValue.size(), huge.size());
+    QCOMPARE(reader->getObj(0x2000).mName.size(), huge.size());
+    QVERIFY(load(changed(description(), "index=\"1018\"", "index=\"" + huge + '"')).size() < 1000);
+    QVERIFY(load(changed(description(), "<Comment/>", '<' + huge + "/>")).isEmpty());
+}
+
+// Readers on several threads come to the same results as on one, messages and conversions included.
+void TestHostile::threads()
+{
+    const QByteArray broken = changed(description(), "\"auto-baudRate\"", "\"1 Kbps\"");
+    const auto work = [&broken](QStringList& results) {
+        for (int round = 0; round < 20; ++round) {
+            const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
+            QString error;
+            QTemporaryFile file;
+            results << QString::number(loadText(*reader, description(), error))
+                    << CCanOpenSubObject::accessTypeAsStr(reader->getObj(0x1018).mSubObjects.first().mAccessType)
+                    << reader->deviceProfile().mVendorText.mLabels.last().mDictId << load(broken)
+                    << load("<a>").right(40)
+                    << QString::number(CNetworkCanOpenProfile::baudrateFromStr(QStringLiteral("800 Kbps")));
+        }
+    };
+    QStringList expected;
+    work(expected);
+    std::vector<QStringList> results(8);
+    std::vector<std::thread> threads;
+    threads.reserve(results.size());
+    for (QStringList& result : results) {
+        threads.emplace_back(work, std::ref(result));
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    for (const QStringList& result : results) {
+        QCOMPARE(result, expected);
+    }
+}
+
+QTEST_GUILESS_MAIN(TestHostile)
+#include "tst_hostile.moc"

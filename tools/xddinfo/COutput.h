@@ -1,0 +1,34 @@
+#ifndef XDDINFO_COUTPUT_H
+#define XDDINFO_COUTPUT_H
+
+#include <QString>
+
+/**
+ * A text of a file in a form that a terminal only shows: control characters, and characters that change the direction
+ * of the text around them, become escapes such as "\u001B".
+ */
+QString printable(const QString& text);
+
+/** Standard output in UTF-8. Remembers the first error, after which nothing more is written. */
+class COutput
+{
+public:
+    /** Writes a text and a line end. */
+    void writeLine(const QString& line = QString());
+
+    /** Writes out what is buffered. To be called once at the end, before the result is asked for. */
+    void finish();
+
+    /** True when there is no point in writing more. */
+    bool failed() const;
+
+    /** What went wrong; empty when all was written, or when the reader of a pipe has had enough and closed it. */
+    QString errorText() const;
+
+private:
+    void check(bool ok);
+
+    int mError = 0; // The errno of the first write that failed
+};
+
+#endif
