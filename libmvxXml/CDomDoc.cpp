@@ -168,7 +168,7 @@ int numberAt(const QString& text, int position, int digits)
 // The text without surrounding white space and without the time zone of XML Schema: "Z" or an offset up to 14:00.
 QString withoutZone(const QString& text)
 {
-    const QString value = text.trimmed();
+    QString value = text.trimmed();
     if (value.endsWith(QLatin1Char('Z'))) {
         return value.chopped(1);
     }

@@ -3,6 +3,10 @@
 
 #include <QtTest>
 
+// A reporting read, behind which its output is hidden.
+using TRead = std::function<CDomDoc::EResult(const QDomElement&, QString&)>;
+Q_DECLARE_METATYPE(TRead)
+
 // The typed access to elements and attributes.
 class TestDomDoc : public QObject
 {
@@ -244,12 +248,12 @@ void TestDomDoc::elements()
 void TestDomDoc::messages_data()
 {
     using EResult = CDomDoc::EResult;
-    QTest::addColumn<std::function<EResult(const QDomElement&, QString&)>>("read");
+    QTest::addColumn<TRead>("read");
     QTest::addColumn<int>("result");
     QTest::addColumn<QString>("message");
 
     const auto row = [](const char* name, EResult result, const char* message, auto read) {
-        QTest::newRow(name) << std::function<EResult(const QDomElement&, QString&)>(read) << static_cast<int>(result)
+        QTest::newRow(name) << TRead(read) << static_cast<int>(result)
                             << latin1("Error while parsing TAG <r> in line 2 : ") + latin1(message);
     };
     row("element", EResult::Missing, "Element <no> is missing.", [](const QDomElement& e, QString& error) {
@@ -291,11 +295,8 @@ void TestDomDoc::messages_data()
         });
 }
 
-Q_DECLARE_METATYPE(std::function<CDomDoc::EResult(const QDomElement&, QString&)>)
-
 void TestDomDoc::messages()
 {
-    using TRead = std::function<CDomDoc::EResult(const QDomElement&, QString&)>;
     QFETCH(TRead, read);
     QFETCH(int, result);
     QFETCH(QString, message);

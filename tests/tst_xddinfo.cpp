@@ -166,7 +166,7 @@ void TestXddinfo::theOthersAreShown()
 void TestXddinfo::controlCharacters()
 {
     const QTemporaryDir folder;
-    const QByteArray evil = "\x1B[31m\xE2\x80\xAE\xC2\x9B";
+    const QByteArray evil = "\x1B[31m" + QString(QChar(0x202E)).toUtf8() + "\xC2\x9B";
     const QString shown = QStringLiteral("\\u001b[31m\\u202e\\u009b");
     const QString good = fileWith(folder, changed(description(), ">Vendor<", '>' + evil + '<'));
     QVERIFY(run({good}).output.contains(QLatin1String("Vendor                  ") + shown + QLatin1Char('\n')));
