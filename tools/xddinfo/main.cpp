@@ -2,11 +2,13 @@
 #include "COutput.h"
 #include "CTextReport.h"
 #include "CanOpenNames.h"
+#include "NormalizedDescription.h"
 
 #include <ICIso15745.h>
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFile>
 
 #include <csignal>
 #include <cstdio>
@@ -27,6 +29,7 @@ struct SRequest
     QStringList fileNames;
     bool sample = false; // No file was named: the embedded sample is shown
     bool json = false;
+    bool normalize = false;
     bool oneObject = false;
     unsigned int objectIndex = 0;
 };
@@ -61,11 +64,31 @@ bool show(const SRequest& request, const QString& fileName, ICIso15745& reader, 
     return true;
 }
 
+// Loads a description as xddnormalize would write it, and says so.
+bool loadNormalized(ICIso15745& reader, const QString& fileName, QString& errorText)
+{
+    QFile file(fileName);
+    SNormalizedDescription normalized;
+    if (!file.open(QIODevice::ReadOnly)) {
+        errorText = file.errorString();
+        return false;
+    }
+    if (!normalizeDescription(file.readAll(), normalized, errorText)
+        || !loadDescription(reader, normalized.bytes, errorText)) {
+        return false;
+    }
+    complain(QCoreApplication::translate("xddinfo", "%1: Normalized before it was read, with %2 changes.")
+                 .arg(fileName, QString::number(normalized.changes.size())));
+    return true;
+}
+
 bool showFile(const SRequest& request, const QString& fileName, COutput& output)
 {
     const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
     QString errorText;
-    if (!reader->load(fileName, errorText)) {
+    const bool loaded =
+        request.normalize ? loadNormalized(*reader, fileName, errorText) : reader->load(fileName, errorText);
+    if (!loaded) {
         complain(fileName + QLatin1String(": ") + errorText);
         return false;
     }
@@ -129,7 +152,11 @@ int run(const QStringList& arguments)
         QStringLiteral("object"),
         QCoreApplication::translate("xddinfo", "Show one object in full; the index is hexadecimal, such as 0x1018."),
         QCoreApplication::translate("xddinfo", "index"));
-    parser.addOptions({help, version, json, object});
+    const QCommandLineOption normalize(
+        QStringLiteral("normalize"),
+        QCoreApplication::translate(
+            "xddinfo", "Normalize a foreign description before it is read (see xddnormalize)."));
+    parser.addOptions({help, version, json, object, normalize});
     parser.addPositionalArgument(
         QStringLiteral("FILE"),
         QCoreApplication::translate("xddinfo", "A description. Without one the embedded sample is shown."),
@@ -152,6 +179,7 @@ int run(const QStringList& arguments)
         request.fileNames << embeddedSample();
     }
     request.json = parser.isSet(json);
+    request.normalize = parser.isSet(normalize);
     request.oneObject = parser.isSet(object);
     if (request.oneObject) {
         bool ok = false;
@@ -170,6 +198,6 @@ int main(int argc, char* argv[])
     std::signal(SIGPIPE, SIG_IGN);
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("xddinfo"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(XDDINFO_VERSION));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TOOL_VERSION));
     return run(QCoreApplication::arguments());
 }

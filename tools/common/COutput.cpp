@@ -1,7 +1,5 @@
 #include "COutput.h"
 
-#include <QByteArray>
-
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -36,14 +34,17 @@ QString printable(const QString& text)
     return result;
 }
 
-void COutput::writeLine(const QString& line)
+void COutput::write(const QByteArray& bytes)
 {
     if (!failed()) {
-        const QByteArray bytes = (line + QLatin1Char('\n')).toUtf8();
-        check(
-            std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout)
-            == std::size_t(bytes.size()));
+        const auto size = static_cast<std::size_t>(bytes.size());
+        check(std::fwrite(bytes.constData(), 1, size, stdout) == size);
     }
+}
+
+void COutput::writeLine(const QString& line)
+{
+    write(line.toUtf8() + '\n');
 }
 
 void COutput::finish()

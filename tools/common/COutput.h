@@ -1,6 +1,7 @@
-#ifndef XDDINFO_COUTPUT_H
-#define XDDINFO_COUTPUT_H
+#ifndef TOOLS_COUTPUT_H
+#define TOOLS_COUTPUT_H
 
+#include <QByteArray>
 #include <QString>
 
 /**
@@ -9,11 +10,14 @@
  */
 QString printable(const QString& text);
 
-/** Standard output in UTF-8. Remembers the first error, after which nothing more is written. */
+/** Standard output. Remembers the first error, after which nothing more is written. */
 class COutput
 {
 public:
-    /** Writes a text and a line end. */
+    /** Writes bytes as they are. */
+    void write(const QByteArray& bytes);
+
+    /** Writes a text and a line end in UTF-8. */
     void writeLine(const QString& line = QString());
 
     /** Writes out what is buffered. To be called once at the end, before the result is asked for. */

@@ -1,0 +1,32 @@
+#ifndef XDDNORMALIZE_CENCODEDTEXT_H
+#define XDDNORMALIZE_CENCODEDTEXT_H
+
+#include <QByteArray>
+#include <QString>
+
+class QTextCodec;
+
+/** The characters of an XML file, together with what is needed to get its bytes back. */
+class CEncodedText
+{
+public:
+    /**
+     * Decodes the bytes of a file: by its byte order mark, by its XML declaration, or as UTF-8.
+     *
+     * @return false, with a message, when the encoding is not known or the text would not come back byte for byte
+     */
+    bool decode(const QByteArray& bytes, QString& errorText);
+
+    /** The bytes of a text in the encoding of the file, byte order mark included. */
+    QByteArray encode(const QString& text) const;
+
+    /** The decoded characters without the byte order mark. */
+    const QString& text() const;
+
+private:
+    const QTextCodec* mCodec = nullptr; // Qt owns it
+    QByteArray mByteOrderMark;
+    QString mText;
+};
+
+#endif
