@@ -18,14 +18,31 @@ function(mvx_target_defaults target)
 endfunction()
 
 # A shared library of the project: hidden visibility with a generated export header `<target>_export.h`, the so-name
-# of the project and an alias in the namespace under which an installed library is found.
+# of the project, its public headers, and an alias in the namespace under which an installed library is found.
 function(mvx_shared_library target)
+    cmake_parse_arguments(ARG "" "HEADER_DIR" "HEADERS" ${ARGN})
+    list(TRANSFORM ARG_HEADERS PREPEND ${ARG_HEADER_DIR}/)
+    set(export_dir ${CMAKE_CURRENT_BINARY_DIR}/export)
+
     mvx_target_defaults(${target})
     set_target_properties(${target} PROPERTIES
         VERSION ${PROJECT_VERSION}
         SOVERSION ${MVX_SOVERSION}
         CXX_VISIBILITY_PRESET hidden
-        VISIBILITY_INLINES_HIDDEN ON)
-    generate_export_header(${target} EXPORT_FILE_NAME ${CMAKE_CURRENT_BINARY_DIR}/export/${target}_export.h)
+        VISIBILITY_INLINES_HIDDEN ON
+        INSTALL_RPATH "$ORIGIN"
+        VERIFY_INTERFACE_HEADER_SETS ON)
+    generate_export_header(${target} EXPORT_FILE_NAME ${export_dir}/${target}_export.h)
+    target_sources(${target} PUBLIC
+        FILE_SET HEADERS
+        BASE_DIRS ${ARG_HEADER_DIR} ${export_dir}
+        FILES ${ARG_HEADERS} ${export_dir}/${target}_export.h)
     add_library(mvx::${target} ALIAS ${target})
+endfunction()
+
+# A command line tool of the project.
+function(mvx_tool target)
+    mvx_target_defaults(${target})
+    file(RELATIVE_PATH to_libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/${to_libraries}")
 endfunction()

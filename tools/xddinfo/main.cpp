@@ -2,6 +2,7 @@
 #include "COutput.h"
 #include "CTextReport.h"
 #include "CanOpenNames.h"
+#include "Catalogue.h"
 #include "NormalizedDescription.h"
 
 #include <ICIso15745.h>
@@ -199,5 +200,6 @@ int main(int argc, char* argv[])
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("xddinfo"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TOOL_VERSION));
+    installCatalogue();
     return run(QCoreApplication::arguments());
 }

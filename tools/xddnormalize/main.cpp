@@ -1,4 +1,5 @@
 #include "COutput.h"
+#include "Catalogue.h"
 #include "NormalizedDescription.h"
 
 #include <QCommandLineParser>
@@ -274,5 +275,6 @@ int main(int argc, char* argv[])
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("xddnormalize"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TOOL_VERSION));
+    installCatalogue();
     return run(QCoreApplication::arguments());
 }
