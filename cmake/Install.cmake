@@ -2,6 +2,17 @@
 # any prefix and after the whole folder has been moved. The components are the Debian packages of Packages.cmake.
 include(CMakePackageConfigHelpers)
 
+# Compresses a file of the sources into the top of the build folder, the same bytes every time.
+find_program(GZIP gzip REQUIRED)
+function(mvx_compressed source)
+    cmake_path(GET source FILENAME name)
+    execute_process(
+        COMMAND ${GZIP} -9nc ${PROJECT_SOURCE_DIR}/${source}
+        OUTPUT_FILE ${PROJECT_BINARY_DIR}/${name}.gz
+        COMMAND_ERROR_IS_FATAL ANY)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${source})
+endfunction()
+
 set(mvx_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/mvxIso15745Xml)
 
 foreach(target mvxIso15745Xml mvxXml)
@@ -45,7 +56,9 @@ if(MVX_BUILD_TOOLS)
         RUNTIME
             DESTINATION ${CMAKE_INSTALL_BINDIR}
             COMPONENT tools)
-    install(FILES docs/man/xddinfo.1 docs/man/xddnormalize.1
+    mvx_compressed(docs/man/xddinfo.1)
+    mvx_compressed(docs/man/xddnormalize.1)
+    install(FILES ${PROJECT_BINARY_DIR}/xddinfo.1.gz ${PROJECT_BINARY_DIR}/xddnormalize.1.gz
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
         COMPONENT tools)
     install(FILES tools/completion/xddinfo tools/completion/xddnormalize

@@ -62,6 +62,7 @@ public:
     /**
      * Looks an object up, in logarithmic time.
      *
+     * @param index index of the object, such as 0x1018
      * @return a copy of the object with that index, or a default object, whose CCanOpenSubObject::isValid is false,
      *         when there is none
      */
@@ -70,6 +71,7 @@ public:
     /**
      * Stores a copy of an object under its own index.
      *
+     * @param object    the object; nothing but its index is tested
      * @param errorText replaced by a message (not translated) when the index is taken, untouched otherwise
      * @return false when there is already an object with that index; the stored one then stays as it was
      */
