@@ -1,4 +1,4 @@
-#include <ICIso15745.h>
+#include "Description.h"
 
 #include <QProcess>
 #include <QtTest>
@@ -17,6 +17,7 @@ private Q_SLOTS:
     void samples_data();
     void samples();
     void samplesCanBeTakenOut();
+    void germanMessages();
 };
 
 namespace
@@ -144,6 +145,24 @@ void TestLibrary::samplesCanBeTakenOut()
     QVERIFY(!QFile::exists(sample("NLV7315602_v.xdd")) && !QFile::exists(sample("NLV7315602_i.xdd")));
     Q_INIT_RESOURCE(mvxIso15745Xml);
     QVERIFY(QFile::exists(sample("NLV7315602_i.xdd")));
+}
+
+// Both contexts of the library, with their arguments in place.
+void TestLibrary::germanMessages()
+{
+    QTranslator translator;
+    QVERIFY(translator.load(QStringLiteral("mvxIso15745Xml_de"), QStringLiteral(CATALOGUE_FOLDER)));
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
+    QString error;
+    QVERIFY(!loadText(*reader, changed(description(), "\"auto-baudRate\"", "\"9 Kbps\""), error));
+    QVERIFY2(error.endsWith(QString::fromUtf8(" : \"9 Kbps\" ist keine gültige Baudrate !")), qPrintable(error));
+    QVERIFY(error.startsWith(QLatin1String("Fehler beim Lesen des TAGs <supportedBaudRate> in Zeile ")));
+    QVERIFY(!loadText(*reader, changed(description(), "2011-10-05", "heute"), error));
+    QCOMPARE(
+        error,
+        QStringLiteral("Fehler beim Lesen des TAGs <ProfileBody> in Zeile 19 : Das Attribut \"fileCreationDate\" ist "
+                       "\"heute\", sollte aber ein Datum Jahr-Monat-Tag (JJJJ-MM-TT) sein."));
 }
 
 QTEST_GUILESS_MAIN(TestLibrary)
