@@ -14,6 +14,8 @@
 
 #include <memory>
 
+#include <malloc.h>
+
 namespace
 {
 // The file with that many objects; it lives as long as the program.
@@ -49,9 +51,17 @@ void setContent(QDomDocument& document, const QString& fileName)
     }
 }
 
+// The file of a row, with the memory of the rows before it given back: what they have freed would otherwise be sorted
+// out within this one's time.
+QString fileOf(const benchmark::State& state)
+{
+    malloc_trim(0);
+    return fileWith(int(state.range(0)));
+}
+
 void bareSetContent(benchmark::State& state)
 {
-    const QString fileName = fileWith(int(state.range(0)));
+    const QString fileName = fileOf(state);
     for (auto _ : state) {
         QDomDocument document;
         setContent(document, fileName);
@@ -60,7 +70,7 @@ void bareSetContent(benchmark::State& state)
 
 void load(benchmark::State& state)
 {
-    const QString fileName = fileWith(int(state.range(0)));
+    const QString fileName = fileOf(state);
     for (auto _ : state) {
         const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
         loadInto(*reader, fileName);
@@ -69,6 +79,7 @@ void load(benchmark::State& state)
 
 void loadSample(benchmark::State& state, const char* name)
 {
+    malloc_trim(0);
     const QString fileName = QStringLiteral(":/mvxIso15745Xml/xml/") + QString::fromLatin1(name);
     for (auto _ : state) {
         const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
@@ -78,7 +89,7 @@ void loadSample(benchmark::State& state, const char* name)
 
 void destruction(benchmark::State& state)
 {
-    const QString fileName = fileWith(int(state.range(0)));
+    const QString fileName = fileOf(state);
     for (auto _ : state) {
         state.PauseTiming();
         std::unique_ptr<ICIso15745> reader(ICIso15745::create());
@@ -90,7 +101,7 @@ void destruction(benchmark::State& state)
 
 void streamReader(benchmark::State& state)
 {
-    const QString fileName = fileWith(int(state.range(0)));
+    const QString fileName = fileOf(state);
     for (auto _ : state) {
         QFile file(fileName);
         if (!file.open(QIODevice::ReadOnly) || CStreamReader::readObjects(file).size() != state.range(0)) {
@@ -102,7 +113,7 @@ void streamReader(benchmark::State& state)
 // The tree alone, without records.
 void libxml2Tree(benchmark::State& state)
 {
-    const QByteArray fileName = fileWith(int(state.range(0))).toLocal8Bit();
+    const QByteArray fileName = fileOf(state).toLocal8Bit();
     for (auto _ : state) {
         xmlDoc* const document = xmlReadFile(fileName.constData(), nullptr, XML_PARSE_NONET | XML_PARSE_HUGE);
         if (document == nullptr) {
