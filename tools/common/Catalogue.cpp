@@ -6,16 +6,19 @@
 #include <QStringList>
 #include <QTranslator>
 
+#include <memory>
+
 void installCatalogue()
 {
     const QStringList folders = {
         QCoreApplication::applicationDirPath() + QLatin1String("/" CATALOGUE_FOLDER),
         QLibraryInfo::location(QLibraryInfo::TranslationsPath),
     };
-    auto* const translator = new QTranslator(QCoreApplication::instance());
+    auto translator = std::make_unique<QTranslator>();
     for (const QString& folder : folders) {
         if (translator->load(QLocale(), QStringLiteral("mvxIso15745Xml"), QStringLiteral("_"), folder)) {
-            QCoreApplication::installTranslator(translator);
+            translator->setParent(QCoreApplication::instance()); // Which installs it, and ends it
+            QCoreApplication::installTranslator(translator.release());
             return;
         }
     }

@@ -139,7 +139,7 @@ bool CElements::readEvents(const QString& text, QXmlStreamReader& reader, QStrin
                 open->children.push_back(&element);
             }
             open = &element;
-        } else if (token == QXmlStreamReader::EndElement) {
+        } else if (token == QXmlStreamReader::EndElement && open != nullptr) {
             --depth;
             open->end = offset;
             open->contentEnd = open->isEmptyTag ? offset : text.lastIndexOf(QLatin1Char('<'), offset - 1);

@@ -127,7 +127,7 @@ QString rateText(const QString& text)
     static const QRegularExpression form(
         QStringLiteral("^\\s*(\\d+)\\s*(k|m|)\\s*(?:bit/s|bits/s|bps|bit|baud|bd|)\\s*$"),
         QRegularExpression::CaseInsensitiveOption);
-    const QString automatic = VAL_BAUD_AUTO;
+    QString automatic = VAL_BAUD_AUTO;
     const QString word = text.trimmed().toLower();
     if (word == automatic.toLower() || word == QLatin1String("auto")) {
         return automatic;
@@ -657,7 +657,7 @@ QString CNormalizer::bitRate(const SElement& element, const QString& attribute)
         return DEFAULT_RATE;
     }
     const QString text = value(tag, attribute);
-    const QString rate = rateText(text);
+    QString rate = rateText(text);
     if (rate.isEmpty()) {
         report(ERule::Left, element, left(attribute, text));
     } else if (rate != text) {

@@ -199,37 +199,71 @@ int print(const QString& text)
     return EXIT_ALL_LOAD;
 }
 
-int run(const QStringList& arguments)
+QCommandLineOption option(const QStringList& names, const QString& description, const QString& valueName = QString())
 {
-    const auto option = [](const QStringList& names, const QString& description, const QString& valueName = QString()) {
-        return QCommandLineOption(names, description, valueName);
-    };
-    const QCommandLineOption help = option(
+    return {names, description, valueName};
+}
+
+// The options, made when the catalogue of the user's language is there.
+struct SOptions
+{
+    QCommandLineOption help = option(
         {QStringLiteral("h"), QStringLiteral("help")}, QCoreApplication::translate("xddnormalize", "Print this help."));
-    const QCommandLineOption version = option(
+    QCommandLineOption version = option(
         {QStringLiteral("v"), QStringLiteral("version")},
         QCoreApplication::translate("xddnormalize", "Print the version."));
-    const QCommandLineOption output = option(
+    QCommandLineOption output = option(
         {QStringLiteral("o"), QStringLiteral("output")},
         QCoreApplication::translate("xddnormalize", "Write the copy of the one FILE to OUT; - is standard output."),
         QStringLiteral("OUT"));
-    const QCommandLineOption outputDir = option(
+    QCommandLineOption outputDir = option(
         {QStringLiteral("output-dir")},
         QCoreApplication::translate("xddnormalize", "Write the copies under the names of the files to DIR."),
         QStringLiteral("DIR"));
-    const QCommandLineOption inPlace = option(
+    QCommandLineOption inPlace = option(
         {QStringLiteral("in-place")}, QCoreApplication::translate("xddnormalize", "Change the files themselves."));
-    const QCommandLineOption dryRun =
+    QCommandLineOption dryRun =
         option({QStringLiteral("dry-run")}, QCoreApplication::translate("xddnormalize", "Write nothing, only report."));
-    const QCommandLineOption verbose = option(
+    QCommandLineOption verbose = option(
         {QStringLiteral("verbose")}, QCoreApplication::translate("xddnormalize", "Report every change by itself."));
-    const QCommandLineOption quiet =
+    QCommandLineOption quiet =
         option({QStringLiteral("quiet")}, QCoreApplication::translate("xddnormalize", "Report no changes."));
+};
 
+// What the options ask for; a reason to refuse them, or nothing.
+QString understand(const QCommandLineParser& parser, const SOptions& options, SRequest& request)
+{
+    request.fileNames = parser.positionalArguments();
+    request.output = parser.isSet(options.output) ? parser.value(options.output) : STANDARD_STREAM;
+    request.outputDir = parser.value(options.outputDir);
+    request.inPlace = parser.isSet(options.inPlace);
+    request.dryRun = parser.isSet(options.dryRun);
+    request.verbose = parser.isSet(options.verbose);
+    request.quiet = parser.isSet(options.quiet);
+    const int destinations =
+        int(parser.isSet(options.output)) + int(parser.isSet(options.outputDir)) + int(request.inPlace);
+    if (request.fileNames.isEmpty()) {
+        return QCoreApplication::translate("xddnormalize", "No file is named.");
+    }
+    if (destinations > 1) {
+        return QCoreApplication::translate(
+            "xddnormalize", "Only one of --output, --output-dir and --in-place can be meant.");
+    }
+    if (request.fileNames.size() > 1 && !request.dryRun && request.outputDir.isEmpty() && !request.inPlace) {
+        return QCoreApplication::translate("xddnormalize", "Several files need --output-dir or --in-place.");
+    }
+    return QString();
+}
+
+int run(const QStringList& arguments)
+{
+    const SOptions options;
     QCommandLineParser parser;
     parser.setApplicationDescription(QCoreApplication::translate(
         "xddnormalize", "Writes copies of CANopen device descriptions in the form that the library reads."));
-    parser.addOptions({help, version, output, outputDir, inPlace, dryRun, verbose, quiet});
+    parser.addOptions(
+        {options.help, options.version, options.output, options.outputDir, options.inPlace, options.dryRun,
+         options.verbose, options.quiet});
     parser.addPositionalArgument(
         QStringLiteral("FILE"),
         QCoreApplication::translate(
@@ -238,33 +272,15 @@ int run(const QStringList& arguments)
     if (!parser.parse(arguments)) {
         return refuse(parser.errorText());
     }
-    if (parser.isSet(help)) {
+    if (parser.isSet(options.help)) {
         return print(parser.helpText().trimmed());
     }
-    if (parser.isSet(version)) {
+    if (parser.isSet(options.version)) {
         return print(QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion());
     }
-
     SRequest request;
-    request.fileNames = parser.positionalArguments();
-    request.output = parser.isSet(output) ? parser.value(output) : STANDARD_STREAM;
-    request.outputDir = parser.value(outputDir);
-    request.inPlace = parser.isSet(inPlace);
-    request.dryRun = parser.isSet(dryRun);
-    request.verbose = parser.isSet(verbose);
-    request.quiet = parser.isSet(quiet);
-    const int destinations = int(parser.isSet(output)) + int(parser.isSet(outputDir)) + int(request.inPlace);
-    if (request.fileNames.isEmpty()) {
-        return refuse(QCoreApplication::translate("xddnormalize", "No file is named."));
-    }
-    if (destinations > 1) {
-        return refuse(QCoreApplication::translate(
-            "xddnormalize", "Only one of --output, --output-dir and --in-place can be meant."));
-    }
-    if (request.fileNames.size() > 1 && !request.dryRun && request.outputDir.isEmpty() && !request.inPlace) {
-        return refuse(QCoreApplication::translate("xddnormalize", "Several files need --output-dir or --in-place."));
-    }
-    return normalizeAll(request);
+    const QString reason = understand(parser, options, request);
+    return reason.isEmpty() ? normalizeAll(request) : refuse(reason);
 }
 } // namespace
 
