@@ -45,6 +45,88 @@ int lineOf(const QByteArray& text, const QByteArray& start)
     return text.left(text.lastIndexOf('\n' + start) + 1).count('\n') + 1;
 }
 
+// The fields of a record in the order of their declaration.
+
+QString textsOf(const CProfileHeader& header)
+{
+    return QStringList{
+        header.mProfileIdentification,
+        header.mProfileRevision,
+        header.mProfileName,
+        header.mProfileSource,
+        CProfileHeader::classIdAsStr(header.mProfileClassId),
+        header.mProfileDate.toString(Qt::ISODate),
+        header.mAdditionalInformation,
+        QString::number(header.mIso15745Part),
+        QString::number(header.mIso15745Edition),
+        header.mProfileTechnology,
+        CProfileHeader::iasIfTypAsStr(header.mIasInterfaceType)}
+        .join(QLatin1Char(','));
+}
+
+template <typename Profile> QString fileTextsOf(const Profile& profile)
+{
+    return QStringList{
+        profile.mFileCreationDate.toString(Qt::ISODate),
+        profile.mFileCreationTime.toString(Qt::ISODate),
+        profile.mFileCreator,
+        profile.mFileModificationDate.toString(Qt::ISODate),
+        profile.mFileModificationTime.toString(Qt::ISODate),
+        profile.mFileModifiedBy,
+        profile.mFileName,
+        profile.mFileVersion}
+        .join(QLatin1Char(','));
+}
+
+QString textsOf(const QList<CWriteProtectString>& values)
+{
+    QStringList texts;
+    for (const CWriteProtectString& value : values) {
+        texts << value.mValue + QLatin1Char(' ') + QString::number(value.mReadOnly);
+    }
+    return texts.join(QLatin1Char(','));
+}
+
+QString textsOf(const CGLabels& labels)
+{
+    QStringList texts;
+    for (const CGLabel& label : labels) {
+        texts << QStringList{CGLabel::gLabelTypeAsStr(label.mType), label.mText, label.mLang, label.mUri, label.mRefText, label.mDictId, label.mTextId}.join(QLatin1Char('/'));
+    }
+    return texts.join(QLatin1Char(','));
+}
+
+QString textsOf(const QList<CVersion>& versions)
+{
+    QStringList texts;
+    for (const CVersion& version : versions) {
+        texts
+            << QStringList{CVersion::versionTypeAsStr(version.mVersionType), version.mValue, QString::number(version.mReadOnly)}
+                   .join(QLatin1Char(' '));
+    }
+    return texts.join(QLatin1Char(','));
+}
+
+QString textsOf(const CCanOpenSubObject& entry)
+{
+    return QStringList{
+        QString::number(entry.mIndex),
+        entry.mName,
+        QString::number(entry.mObjectType),
+        QString::number(entry.mDataType),
+        entry.mLowLimit,
+        entry.mHighLimit,
+        CCanOpenSubObject::accessTypeAsStr(entry.mAccessType),
+        entry.mDefaultValue,
+        entry.mActualValue,
+        entry.mDenotation,
+        CCanOpenSubObject::pdoMappingAsStr(entry.mPdoMapping),
+        QString::number(entry.mObjFlags),
+        entry.mUniqueIdRef,
+        QString::number(entry.mSubNumber)}
+        .join(QLatin1Char(','));
+}
+
 std::unique_ptr<ICIso15745> reader()
 {
     return std::unique_ptr<ICIso15745>(ICIso15745::create());
@@ -106,69 +188,37 @@ void TestLoad::everythingIsRead()
     QVERIFY2(loadText(*iso, description(), error), qPrintable(error));
 
     const CDeviceProfile& device = iso->deviceProfile();
-    QCOMPARE(device.mHeader.mProfileIdentification, latin1("device"));
-    QCOMPARE(device.mHeader.mProfileRevision, latin1("2"));
-    QCOMPARE(device.mHeader.mProfileClassId, CProfileHeader::CID_DEVICE);
-    QCOMPARE(device.mHeader.mProfileDate, QDate(2010, 2, 3));
-    QCOMPARE(device.mHeader.mAdditionalInformation, latin1("more"));
-    QCOMPARE(device.mHeader.mIso15745Part, 4U);
-    QCOMPARE(device.mHeader.mIso15745Edition, 16U);
-    QCOMPARE(device.mHeader.mProfileTechnology, latin1("any"));
-    QCOMPARE(device.mHeader.mIasInterfaceType, CProfileHeader::IFT_CMI);
-    QCOMPARE(device.mFileCreationDate, QDate(2011, 10, 5));
-    QCOMPARE(device.mFileCreationTime, QTime(9, 8, 7));
-    QCOMPARE(device.mFileCreator, latin1("me"));
-    QCOMPARE(device.mFileModificationDate, QDate(2012, 1, 2));
-    QCOMPARE(device.mFileModificationTime, QTime(10, 11, 12));
-    QCOMPARE(device.mFileModifiedBy, latin1("you"));
-    QCOMPARE(device.mFileName, latin1("d.xdd"));
-    QCOMPARE(device.mFileVersion, latin1("1.5"));
-    QCOMPARE(device.mVendorName.mValue, latin1("Vendor"));
-    QCOMPARE(device.mVendorId.mValue, latin1("0x1"));
-    QVERIFY(device.mVendorName.mReadOnly && !device.mVendorId.mReadOnly && !device.mVendorText.mReadOnly);
-    QCOMPARE(device.mProductFamily.mValue, latin1("family"));
-    QCOMPARE(device.mProductName.mValue, latin1("Product"));
-    QVERIFY(device.mProductName.mReadOnly && device.mInstanceName.mReadOnly);
-    QCOMPARE(device.mProductId.mValue, latin1("0x2"));
-    QCOMPARE(device.mOrderNumber.mValue, latin1("first"));
-    QCOMPARE(device.mBuildDate, QDate(2013, 4, 5));
-    QCOMPARE(device.mSpecificationRevision.mValue, latin1("rev"));
-    QCOMPARE(device.mInstanceName.mValue, latin1("inst"));
-
-    const CGLabels& texts = device.mVendorText.mLabels;
-    QCOMPARE(texts.size(), 4);
-    QCOMPARE(texts[0].mText + texts[0].mLang, latin1("texten"));
-    QCOMPARE(texts[1].mText + texts[1].mLang + texts[1].mUri, latin1("Beschreibungdehttp://u"));
-    QCOMPARE(texts[2].mType, CGLabel::GLABTYP_LABEL_REF);
-    QCOMPARE(texts[2].mRefText + texts[2].mDictId + texts[2].mTextId, latin1("refd1t1"));
-    QCOMPARE(texts[3].mType, CGLabel::GLABTYP_DESCRIPTION_REF);
-    QCOMPARE(texts[3].mDictId + texts[3].mTextId + texts[3].mText, latin1("d2t2"));
-    QCOMPARE(device.mDeviceFamily.mLabels.first().mUri, QString());
-    QCOMPARE(device.mProductText.mLabels.first().mLang, latin1("fr"));
-    QCOMPARE(device.mVersions.size(), 2);
-    QCOMPARE(device.mVersions[0].mVersionType, CVersion::VTYPE_SW);
-    QCOMPARE(device.mVersions[0].mValue, latin1("1"));
-    QVERIFY(device.mVersions[0].mReadOnly && !device.mVersions[1].mReadOnly);
-    QCOMPARE(device.mVersions[1].mVersionType, CVersion::VTYPE_INVALID);
-    QCOMPARE(device.mCategory.first().mText, latin1("cat"));
-    QCOMPARE(device.mCharacteristic.mCharacteristicName.first().mText, latin1("name"));
-    QCOMPARE(device.mCharacteristic.mCharacteristicContent.first().mText, latin1("content"));
-
     const CNetworkCanOpenProfile& network = iso->networkProfile();
-    QCOMPARE(network.mHeader.mProfileClassId, CProfileHeader::CID_COMM_NET);
-    QCOMPARE(network.mFileCreationDate, QDate(2011, 10, 6));
-    QVERIFY(network.mFileCreationTime.isNull()); // Not the time at which the reader was made
-    QCOMPARE(network.mFileCreator + network.mFileName + network.mFileVersion, latin1("netn.xdd2"));
-    QCOMPARE(network.mVendorId.mValue, latin1("0x3"));
-    QCOMPARE(network.mDeviceFamily.mLabels.first().mText, latin1("fam"));
-    QCOMPARE(network.mProductId.mValue, latin1("0x4"));
-    QCOMPARE(network.mVersions.first().mVersionType, CVersion::VTYPE_HW);
+    QCOMPARE(textsOf(device.mHeader), latin1("device,2,,,Device,2010-02-03,more,4,16,any,CMI"));
+    QCOMPARE(fileTextsOf(device), latin1("2011-10-05,09:08:07,me,2012-01-02,10:11:12,you,d.xdd,1.5"));
+    QCOMPARE(
+        textsOf(
+            {device.mVendorName, device.mVendorId, device.mProductFamily, device.mProductName, device.mProductId,
+             device.mOrderNumber, device.mSpecificationRevision, device.mInstanceName}),
+        latin1("Vendor 1,0x1 0,family 1,Product 1,0x2 1,first 1,rev 1,inst 1"));
+    QCOMPARE(
+        textsOf(device.mVendorText.mLabels), latin1("label/text/en////,description/Beschreibung/de/http://u///"
+                                                    ",labelRef////ref/d1/t1,descriptionRef/////d2/t2"));
+    QCOMPARE(textsOf(device.mDeviceFamily.mLabels), latin1("label//en////"));
+    QCOMPARE(textsOf(device.mProductText.mLabels), latin1("label/texte/fr////"));
+    QVERIFY(!device.mVendorText.mReadOnly && device.mDeviceFamily.mReadOnly && device.mProductText.mReadOnly);
+    QCOMPARE(textsOf(device.mVersions), latin1("SW 1 1,_invalid_ 2 0"));
+    QCOMPARE(device.mBuildDate, QDate(2013, 4, 5));
+    QCOMPARE(textsOf(device.mCategory), latin1("label/cat/en////"));
+    QCOMPARE(textsOf(device.mCharacteristic.mCharacteristicName), latin1("label/name/en////"));
+    QCOMPARE(textsOf(device.mCharacteristic.mCharacteristicContent), latin1("label/content/en////"));
+
+    QCOMPARE(textsOf(network.mHeader), latin1("network,,,,CommunicationNetwork,,,1,1,CANopen,_invalid_"));
+    // The creation time is null, not the time at which the reader was made.
+    QCOMPARE(fileTextsOf(network), latin1("2011-10-06,,net,,,,n.xdd,2"));
+    QCOMPARE(
+        textsOf({network.mVendorId, network.mProductId, network.mSpecificationRevision}), latin1("0x3 1,0x4 1,spec 0"));
+    QCOMPARE(textsOf(network.mDeviceFamily.mLabels), latin1("label/fam/en////"));
+    QCOMPARE(textsOf(network.mVersions), latin1("HW 3 0"));
     QCOMPARE(network.mBuildDate, QDate(2014, 5, 6));
-    QCOMPARE(network.mSpecificationRevision.mValue, latin1("spec"));
-    QVERIFY(!network.mSpecificationRevision.mReadOnly && !network.mDeviceFamily.mReadOnly);
-    QCOMPARE(network.mMandatoryObjects, 3U);
-    QCOMPARE(network.mOptionalObjects, 18U);
-    QCOMPARE(network.mManufacturerObjects, 20U);
+    QCOMPARE(
+        (QList<uint>{network.mMandatoryObjects, network.mOptionalObjects, network.mManufacturerObjects}),
+        (QList<uint>{3, 18, 20}));
     QCOMPARE(network.mBaudRate, CNetworkCanOpenProfile::BAUD_125_KBPS);
     const QList<CNetworkCanOpenProfile::EBaudrate> rates = {
         CNetworkCanOpenProfile::BAUD_1000_KBPS, CNetworkCanOpenProfile::BAUD_AUTO,
@@ -176,28 +226,13 @@ void TestLoad::everythingIsRead()
     QCOMPARE(network.mSupportedBaudRates, rates);
 
     QCOMPARE(iso->getObjList().keys(), (QList<unsigned int>{0x1018, 0x2000}));
-    const CCanOpenObject last = iso->getObj(0x2000);
-    QCOMPARE(last.mDataType, static_cast<unsigned char>(0)); // "0009" is no octal number
-    QCOMPARE(last.mObjFlags, 0x1FU);
-    QCOMPARE(last.mAccessType, CCanOpenSubObject::OBJ_ACCESS_INVALID);
+    // "0009" is no octal number.
+    QCOMPARE(textsOf(iso->getObj(0x2000)), latin1("8192,last,7,0,,,_invalid_,,,,_invalid_,31,,0"));
     const CCanOpenObject identity = iso->getObj(0x1018);
-    QCOMPARE(identity.mName, latin1("identity"));
-    QCOMPARE(identity.mObjectType, static_cast<unsigned char>(9));
-    QCOMPARE(identity.mSubNumber, static_cast<unsigned char>(5));
+    QCOMPARE(textsOf(identity), latin1("4120,identity,9,0,,,_invalid_,,,,_invalid_,0,,5"));
     QCOMPARE(identity.mSubObjects.size(), 2);
-    const CCanOpenSubObject a = identity.mSubObjects[0];
-    QCOMPARE(a.mIndex, 10U);
-    QCOMPARE(a.mDataType, static_cast<unsigned char>(7));
-    QCOMPARE(a.mLowLimit + a.mHighLimit + a.mDefaultValue + a.mActualValue + a.mDenotation, latin1("91dvavdn"));
-    QCOMPARE(a.mAccessType, CCanOpenSubObject::OBJ_ACCESS_RW);
-    QCOMPARE(a.mPdoMapping, CCanOpenSubObject::OBJ_MAP_TPDO);
-    QCOMPARE(a.mObjFlags, 2U);
-    QCOMPARE(a.mUniqueIdRef, latin1("UID_1"));
-    QCOMPARE(a.mSubNumber, static_cast<unsigned char>(0));
-    const CCanOpenSubObject b = identity.mSubObjects[1];
-    QCOMPARE(b.mName, latin1("b"));
-    QCOMPARE(b.mAccessType, CCanOpenSubObject::OBJ_ACCESS_INVALID);
-    QCOMPARE(b.mPdoMapping, CCanOpenSubObject::OBJ_MAP_INVALID);
+    QCOMPARE(textsOf(identity.mSubObjects[0]), latin1("10,a,7,7,9,1,rw,dv,av,dn,TPDO,2,UID_1,0"));
+    QCOMPARE(textsOf(identity.mSubObjects[1]), latin1("0,b,7,0,,,_invalid_,,,,_invalid_,0,,0"));
 }
 
 // What an optional element leaves when it is absent: the default of the record, or what an earlier load stored.

@@ -135,21 +135,17 @@ void TestXddinfo::json()
     const QJsonValue network = document.value(QLatin1String("networkProfile"));
     QCOMPARE(document.value(QLatin1String("file")).toString(), file);
     QCOMPARE(at(at(device, "ProfileHeader"), "ProfileClassID").toString(), QStringLiteral("Device"));
-    QCOMPARE(at(device, "fileCreationTime").toString(), QStringLiteral("09:08:07.000"));
     QCOMPARE(at(at(device, "vendorID"), "readOnly").toBool(true), false);
     QCOMPARE(at(at(device, "vendorText"), "labels").toArray().size(), 4);
     QVERIFY(at(device, "versions").toArray().last().toObject().value(QLatin1String("versionType")).isNull());
     QVERIFY(at(network, "fileCreationTime").isNull());
     QCOMPARE(at(network, "baudRate").toInt(), 125);
     QCOMPARE(at(network, "supportedBaudRates").toArray(), (QJsonArray{1000, 0, 1000}));
-    QCOMPARE(at(network, "optionalObjects").toInt(), 18);
     const QJsonArray objects = at(network, "objects").toArray();
     QCOMPARE(objects.size(), 2);
     QCOMPARE(at(objects[0], "index").toInt(), 0x1018);
-    QCOMPARE(at(objects[0], "subNumber").toInt(), 5);
     const QJsonValue subObject = at(objects[0], "subObjects").toArray().first();
     QCOMPARE(at(subObject, "subIndex").toInt(), 10);
-    QCOMPARE(at(subObject, "PDOmapping").toString(), QStringLiteral("TPDO"));
     QVERIFY(at(objects[1], "accessType").isNull());
 }
 
