@@ -356,7 +356,7 @@ void CNormalizer::fileAttributes(const SElement& body)
     fileDates(body, tag);
     for (const QString& name : {QString(ATTR_FILE_CREATOR), QString(ATTR_FILE_NAME), QString(ATTR_FILE_VERSION)}) {
         if (tag.attribute(name) == nullptr) {
-            setAttribute(body, name, QString());
+            setAttribute(tag, name, QString());
             report(ERule::FileAttribute, body, supplied(name));
         }
     }
@@ -374,14 +374,14 @@ void CNormalizer::fileDates(const SElement& body, const CStartTag& tag)
             report(ERule::Left, body, left(name, text));
             return;
         }
-        setAttribute(body, name, date);
+        setAttribute(tag, name, date);
         report(ERule::FileDate, body, changed(name, text, date));
     };
     rewrite(ATTR_FILE_CREATION_DATE);
     rewrite(ATTR_FILE_MODIFICATION_DATE);
     if (value(tag, ATTR_FILE_CREATION_DATE).trimmed().isEmpty()) {
         const QString modified = isoDate(value(tag, ATTR_FILE_MODIFICATION_DATE));
-        setAttribute(body, ATTR_FILE_CREATION_DATE, modified.isEmpty() ? QStringLiteral("1970-01-01") : modified);
+        setAttribute(tag, ATTR_FILE_CREATION_DATE, modified.isEmpty() ? QStringLiteral("1970-01-01") : modified);
         report(ERule::FileDate, body, supplied(ATTR_FILE_CREATION_DATE));
     }
 }
@@ -470,7 +470,7 @@ void CNormalizer::readOnly(const SElement& element, const QString& byDefault)
     };
     const CStartTag tag(mText, element.begin);
     if (tag.attribute(ATTR_READ_ONLY) == nullptr) {
-        setAttribute(element, ATTR_READ_ONLY, byDefault);
+        setAttribute(tag, ATTR_READ_ONLY, byDefault);
         report(
             ERule::ReadOnly, element, supplied(QStringLiteral("readOnly=\"%1\" of <%2>").arg(byDefault, element.name)));
         return;
@@ -480,7 +480,7 @@ void CNormalizer::readOnly(const SElement& element, const QString& byDefault)
     if (meant.isEmpty()) {
         report(ERule::Left, element, left(ATTR_READ_ONLY, text));
     } else if (meant != text.trimmed()) {
-        setAttribute(element, ATTR_READ_ONLY, meant);
+        setAttribute(tag, ATTR_READ_ONLY, meant);
         report(ERule::Spelling, element, changed(ATTR_READ_ONLY, text, meant));
     }
 }
@@ -504,7 +504,7 @@ void CNormalizer::entry(const SElement& entry)
 {
     const CStartTag tag(mText, entry.begin);
     if (tag.attribute(ATTR_NAME) == nullptr) {
-        setAttribute(entry, ATTR_NAME, QString());
+        setAttribute(tag, ATTR_NAME, QString());
         report(ERule::Name, entry, supplied(ATTR_NAME));
     }
     number(entry, tag, ATTR_DATA_TYPE, 16, UCHAR_MAX);
@@ -531,7 +531,7 @@ void CNormalizer::number(const SElement& element, const CStartTag& tag, const QS
         report(ERule::Left, element, left(name, text));
     } else if (!isRead || read != meant) {
         const QString prefixed = base == 16 ? QLatin1String("0x") + digits : hexadecimal(meant, 2);
-        setAttribute(element, name, prefixed);
+        setAttribute(tag, name, prefixed);
         report(ERule::Number, element, changed(name, text, prefixed));
     }
 }
@@ -544,7 +544,7 @@ void CNormalizer::spelling(const SElement& element, const CStartTag& tag, const 
     }
     for (const QString& known : texts) {
         if (known.compare(text.trimmed(), Qt::CaseInsensitive) == 0) {
-            setAttribute(element, name, known);
+            setAttribute(tag, name, known);
             report(ERule::Spelling, element, changed(name, text, known));
             return;
         }
@@ -577,7 +577,7 @@ void CNormalizer::parameter(const SElement& entry, const CStartTag& tag)
     QStringList names;
     const auto supply = [&](const QString& name, const QString& text, bool stated) {
         if (stated && tag.attribute(name) == nullptr) {
-            setAttribute(entry, name, text);
+            setAttribute(tag, name, text);
             names << name;
         }
     };
@@ -651,7 +651,7 @@ QString CNormalizer::bitRate(const SElement& element, const QString& attribute)
     const CStartTag tag(mText, element.begin);
     if (tag.attribute(attribute) == nullptr) {
         if (attribute == QString(ATTR_DEFAULT_VALUE)) {
-            setAttribute(element, attribute, DEFAULT_RATE);
+            setAttribute(tag, attribute, DEFAULT_RATE);
             report(ERule::BitRate, element, supplied(attribute));
         }
         return DEFAULT_RATE;
@@ -661,7 +661,7 @@ QString CNormalizer::bitRate(const SElement& element, const QString& attribute)
     if (rate.isEmpty()) {
         report(ERule::Left, element, left(attribute, text));
     } else if (rate != text) {
-        setAttribute(element, attribute, rate);
+        setAttribute(tag, attribute, rate);
         report(ERule::BitRate, element, changed(attribute, text, rate));
     }
     return rate;
@@ -712,9 +712,8 @@ void CNormalizer::replace(SRange range, const QString& text)
     mEdits << SEdit{range, text};
 }
 
-void CNormalizer::setAttribute(const SElement& element, const QString& name, const QString& text)
+void CNormalizer::setAttribute(const CStartTag& tag, const QString& name, const QString& text)
 {
-    const CStartTag tag(mText, element.begin);
     if (const SAttribute* const attribute = tag.attribute(name)) {
         replace(attribute->value, escaped(text));
     } else {

@@ -100,7 +100,7 @@ private:
     // Changing the text
     void report(ERule rule, const SElement& element, const QString& what);
     void replace(SRange range, const QString& text);
-    void setAttribute(const SElement& element, const QString& name, const QString& text);
+    void setAttribute(const CStartTag& tag, const QString& name, const QString& text);
     void addChildren(
         ERule rule, const SElement& parent, const std::vector<SNewElement>& children, const SElement* before = nullptr);
     QString xml(const SNewElement& element, const QString& prefix, const QString& lineStart, const QString& unit) const;

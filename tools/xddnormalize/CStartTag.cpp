@@ -30,6 +30,11 @@ int skipName(const QString& text, int position)
     return position;
 }
 
+QStringView viewOf(const QString& text, SRange range)
+{
+    return QStringView(text).mid(range.begin, range.end - range.begin);
+}
+
 // The character of a reference without "&" and ";", or nothing for an entity that is not predefined.
 QString referenced(QStringView name)
 {
@@ -58,26 +63,21 @@ QString referenced(QStringView name)
 } // namespace
 
 CStartTag::CStartTag(const QString& text, int begin)
-    : mNameEnd(skipName(text, begin + 1))
-    , mAttributesEnd(mNameEnd)
+    : mText(text)
+    , mAttributesEnd(skipName(text, begin + 1))
 {
-    int position = skipSpace(text, mNameEnd);
+    int position = skipSpace(text, mAttributesEnd);
     while (position < text.size() && !endsName(text.at(position))) {
         SAttribute attribute;
-        const int nameEnd = skipName(text, position);
-        attribute.qualifiedName = text.mid(position, nameEnd - position);
-        attribute.name = attribute.qualifiedName.mid(attribute.qualifiedName.indexOf(QLatin1Char(':')) + 1);
-        const int quote = skipSpace(text, text.indexOf(QLatin1Char('='), nameEnd) + 1);
+        attribute.name = {position, skipName(text, position)};
+        const int colon = int(viewOf(text, attribute.name).indexOf(QLatin1Char(':')));
+        attribute.name.begin += colon + 1;
+        const int quote = skipSpace(text, text.indexOf(QLatin1Char('='), attribute.name.end) + 1);
         attribute.value = {quote + 1, text.indexOf(text.at(quote), quote + 1)};
         mAttributesEnd = attribute.value.end + 1;
-        mAttributes << attribute;
+        mAttributes.append(attribute);
         position = skipSpace(text, mAttributesEnd);
     }
-}
-
-int CStartTag::nameEnd() const
-{
-    return mNameEnd;
 }
 
 int CStartTag::attributesEnd() const
@@ -85,15 +85,10 @@ int CStartTag::attributesEnd() const
     return mAttributesEnd;
 }
 
-int CStartTag::count() const
-{
-    return mAttributes.size();
-}
-
 const SAttribute* CStartTag::attribute(const QString& name) const
 {
     for (const SAttribute& attribute : mAttributes) {
-        if (attribute.name == name) {
+        if (viewOf(mText, attribute.name) == name) {
             return &attribute;
         }
     }

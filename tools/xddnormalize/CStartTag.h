@@ -2,7 +2,7 @@
 #define XDDNORMALIZE_CSTARTTAG_H
 
 #include <QString>
-#include <QVector>
+#include <QVarLengthArray>
 
 /** A range of characters in a text. */
 struct SRange
@@ -14,34 +14,28 @@ struct SRange
 /** One attribute of a start tag. */
 struct SAttribute
 {
-    QString qualifiedName; ///< Name as written
-    QString name;          ///< Name without its prefix
-    SRange value;          ///< Place of the value, without its quotes
+    SRange name;  ///< Place of the name, without its prefix
+    SRange value; ///< Place of the value, without its quotes
 };
 
-/** Reads the attributes of one start tag with their places in the text. The text has to be well-formed. */
+/** Reads the attributes of one start tag with their places in the text, which has to be well-formed and to outlive it.
+ */
 class CStartTag
 {
 public:
     /** Reads the tag whose "<" is at @p begin. */
     CStartTag(const QString& text, int begin);
 
-    /** Behind the name of the element. */
-    int nameEnd() const;
-
     /** Behind the last attribute, or behind the name when there is none. */
     int attributesEnd() const;
-
-    /** Number of attributes, namespace declarations included. */
-    int count() const;
 
     /** The attribute with that local name, or null. */
     const SAttribute* attribute(const QString& name) const;
 
 private:
-    int mNameEnd;
+    const QString& mText;
     int mAttributesEnd;
-    QVector<SAttribute> mAttributes;
+    QVarLengthArray<SAttribute, 20> mAttributes; // More than an object has
 };
 
 /** The value of a raw piece of XML text: references to characters and to the five predefined entities replaced. */
