@@ -19,6 +19,7 @@ private Q_SLOTS:
     void oneObject();
     void json();
     void theOthersAreShown();
+    void foreignDescription();
     void controlCharacters();
     void closedPipe();
 };
@@ -157,6 +158,19 @@ void TestXddinfo::theOthersAreShown()
     QCOMPARE(result.status, 1);
     QVERIFY(result.output.contains(good + QLatin1String("\n\nVendor                  Vendor\n")));
     QVERIFY(result.messages.startsWith(QStringLiteral("xddinfo: %1/bad.xdd: Read file").arg(folder.path())));
+}
+
+void TestXddinfo::foreignDescription()
+{
+    const QTemporaryDir folder;
+    const QByteArray foreign = changed(description(), "<vendorName readOnly=\"true\">", "<vendorName>");
+    const QString file = fileWith(folder, changed(foreign, ">any<", ">CANopen<"));
+    QCOMPARE(run({file}).status, 1);
+    const SResult result = run({QStringLiteral("--normalize"), file});
+    QCOMPARE(result.status, 0);
+    QVERIFY(result.output.startsWith(file + QLatin1String("\n\nVendor                  Vendor\n")));
+    QVERIFY(result.output.contains(QLatin1String("VISIBLE_STRING"))); // "0009"
+    QVERIFY(result.messages.contains(QLatin1String(": Normalized before it was read, with ")));
 }
 
 void TestXddinfo::controlCharacters()
