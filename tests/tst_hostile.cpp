@@ -265,6 +265,9 @@ void TestHostile::hugeTexts()
 // Readers on several threads come to the same results as on one, messages and conversions included.
 void TestHostile::threads()
 {
+    QTranslator german;
+    QVERIFY(german.load(QStringLiteral("mvxIso15745Xml_de"), QStringLiteral(CATALOGUE_FOLDER)));
+    QVERIFY(QCoreApplication::installTranslator(&german));
     const QByteArray broken = changed(description(), "\"auto-baudRate\"", "\"1 Kbps\"");
     const auto work = [&broken](QStringList& results) {
         for (int round = 0; round < 20; ++round) {
@@ -280,6 +283,7 @@ void TestHostile::threads()
     };
     QStringList expected;
     work(expected);
+    QVERIFY(expected.at(3).contains(QLatin1String("Baudrate !")) && expected.at(3).startsWith(QLatin1String("Fehler")));
     std::vector<QStringList> results(8);
     std::vector<std::thread> threads;
     threads.reserve(results.size());
