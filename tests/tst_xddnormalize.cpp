@@ -302,7 +302,8 @@ void TestXddnormalize::foreignHabits_data()
                QStringLiteral("1/27/const//1/2")};
     QTest::newRow("hand-written") << QByteArray(
         "<ISO15745ProfileContainer><ISO15745Profile><ProfileHeader><ProfileClassID> device "
-        "</ProfileClassID></ProfileHeader><ProfileBody type='ProfileBody_Device_CANopen'/>"
+        "</ProfileClassID></ProfileHeader><ProfileBody "
+        "type='ProfileBody_Device_CANopen'><DeviceIdentity/></ProfileBody>"
         "</ISO15745Profile><ISO15745Profile><ProfileHeader/><ProfileBody "
         "type='ProfileBody_CommunicationNetwork_CANopen'><ApplicationLayers>"
         "<CANopenObjectList><CANopenObject index='2000' objectType='07' dataType='8' accessType='Rw' "

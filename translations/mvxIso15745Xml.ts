@@ -385,7 +385,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>a required header element that states nothing is empty</source>
+        <source>a required element that states nothing is empty</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

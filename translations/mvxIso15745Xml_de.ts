@@ -385,8 +385,8 @@
         <translation>ein Gerät ohne angegebene Funktion hat eine leere</translation>
     </message>
     <message>
-        <source>a required header element that states nothing is empty</source>
-        <translation>ein nötiges Kopfelement, das nichts angibt, ist leer</translation>
+        <source>a required element that states nothing is empty</source>
+        <translation>ein nötiges Element, das nichts angibt, ist leer</translation>
     </message>
     <message>
         <source>a profile of an unknown class would not be read</source>

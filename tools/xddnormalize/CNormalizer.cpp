@@ -279,6 +279,11 @@ void CNormalizer::profile(const SElement& profile)
         bitRates(*body);
     } else if (className.contains(VAL_CID_DEVICE, Qt::CaseInsensitive)) {
         fileAttributes(*body);
+        if (const SElement* const deviceIdentity = body->child(TAG_DEVICE_IDENTITY)) {
+            addMissing(
+                *deviceIdentity, {{TAG_VENDOR_NAME, QStringLiteral("readOnly=\"true\""), QString()},
+                                  {TAG_PRODUCT_NAME, QStringLiteral("readOnly=\"false\""), QString()}});
+        }
         identity(
             body->child(TAG_DEVICE_IDENTITY),
             {TAG_VENDOR_NAME, TAG_VENDOR_ID, TAG_VENDOR_TEXT, TAG_DEVICE_FAMILY, TAG_PRODUCT_FAMILY, TAG_PRODUCT_NAME,
@@ -312,7 +317,7 @@ void CNormalizer::header(const SElement& header, const SElement* body)
             const SElement* const number = reference->child(item.name);
             if (number != nullptr && !number->isEmptyTag && isPlain(*number) && content(*number).trimmed().isEmpty()) {
                 replace({number->contentBegin, number->contentEnd}, item.content);
-                report(ERule::Header, *number, supplied(item.name));
+                report(ERule::Required, *number, supplied(item.name));
             }
         }
     }
@@ -321,21 +326,21 @@ void CNormalizer::header(const SElement& header, const SElement* body)
     }
 }
 
-// Adds those of the required children that a header element lacks, each in front of the next one that is there.
+// Adds those of the required children that an element lacks, each in front of the next one that is there.
 void CNormalizer::addMissing(const SElement& parent, const std::vector<SNewElement>& required)
 {
     std::vector<SNewElement> missing;
     for (const SNewElement& element : required) {
         const SElement* const present = parent.child(element.name);
         if (present != nullptr && !missing.empty()) {
-            addChildren(ERule::Header, parent, missing, present);
+            addChildren(ERule::Required, parent, missing, present);
             missing.clear();
         } else if (present == nullptr) {
             missing.push_back(element);
         }
     }
     if (!missing.empty()) {
-        addChildren(ERule::Header, parent, missing);
+        addChildren(ERule::Required, parent, missing);
     }
 }
 

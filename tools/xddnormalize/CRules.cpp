@@ -9,8 +9,8 @@ QString reasonOf(ERule rule)
         return QCoreApplication::translate("xddnormalize", "the format's default where the attribute is absent");
     case ERule::DeviceFunction:
         return QCoreApplication::translate("xddnormalize", "a device without stated function has an empty one");
-    case ERule::Header:
-        return QCoreApplication::translate("xddnormalize", "a required header element that states nothing is empty");
+    case ERule::Required:
+        return QCoreApplication::translate("xddnormalize", "a required element that states nothing is empty");
     case ERule::ClassId:
         return QCoreApplication::translate("xddnormalize", "a profile of an unknown class would not be read");
     case ERule::FileAttribute:

@@ -12,7 +12,7 @@ enum class ERule
 {
     ReadOnly,
     DeviceFunction,
-    Header,
+    Required,
     ClassId,
     FileAttribute,
     FileDate,
