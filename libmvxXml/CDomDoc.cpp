@@ -232,13 +232,22 @@ bool findText(EItem item, const QString& name, const QDomElement& element, QStri
     return !text.isEmpty() || element.hasAttribute(name);
 }
 
+// Finds the text of an item that has to be there, or reports that it is missing.
+bool requireText(EItem item, const QString& name, const QDomElement& element, QString& text, QString& errorText)
+{
+    if (findText(item, name, element, text)) {
+        return true;
+    }
+    errorText = missingMessage(item, name, element);
+    return false;
+}
+
 // Reporting form for texts.
 CDomDoc::EResult readText(
     EItem item, const QString& name, const QDomElement& element, QString& value, QString& errorText)
 {
     QString text;
-    if (!findText(item, name, element, text)) {
-        errorText = missingMessage(item, name, element);
+    if (!requireText(item, name, element, text, errorText)) {
         return CDomDoc::EResult::Missing;
     }
     value = text;
@@ -252,8 +261,7 @@ CDomDoc::EResult readValue(
     Expected expected)
 {
     QString text;
-    if (!findText(item, name, element, text)) {
-        errorText = missingMessage(item, name, element);
+    if (!requireText(item, name, element, text, errorText)) {
         return CDomDoc::EResult::Missing;
     }
     const std::optional<Value> converted = convert(text);
