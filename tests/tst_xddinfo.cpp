@@ -170,7 +170,8 @@ void TestXddinfo::foreignDescription()
     QCOMPARE(result.status, 0);
     QVERIFY(result.output.startsWith(file + QLatin1String("\n\nVendor                  Vendor\n")));
     QVERIFY(result.output.contains(QLatin1String("VISIBLE_STRING"))); // "0009"
-    QVERIFY(result.messages.contains(QLatin1String(": Normalized before it was read, with ")));
+    // The reference to a parameter that is not there is left, which is no change.
+    QVERIFY(result.messages.endsWith(QLatin1String(": Normalized before it was read, with 4 changes.\n")));
 }
 
 void TestXddinfo::controlCharacters()

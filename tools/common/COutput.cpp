@@ -1,5 +1,7 @@
 #include "COutput.h"
 
+#include <QCoreApplication>
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -32,6 +34,12 @@ QString printable(const QString& text)
         }
     }
     return result;
+}
+
+void complain(const QString& text)
+{
+    std::fprintf(
+        stderr, "%s: %s\n", qUtf8Printable(QCoreApplication::applicationName()), qUtf8Printable(printable(text)));
 }
 
 void COutput::write(const QByteArray& bytes)

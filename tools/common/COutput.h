@@ -10,6 +10,9 @@
  */
 QString printable(const QString& text);
 
+/** Writes a message to standard error, behind the name of the program. */
+void complain(const QString& text);
+
 /** Standard output. Remembers the first error, after which nothing more is written. */
 class COutput
 {

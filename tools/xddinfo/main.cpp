@@ -12,7 +12,6 @@
 #include <QFile>
 
 #include <csignal>
-#include <cstdio>
 #include <memory>
 
 namespace
@@ -38,11 +37,6 @@ struct SRequest
 QString embeddedSample()
 {
     return QStringLiteral(":/mvxIso15745Xml/xml/NLV7315602_v.xdd");
-}
-
-void complain(const QString& text)
-{
-    std::fprintf(stderr, "xddinfo: %s\n", qUtf8Printable(printable(text)));
 }
 
 // Shows what was asked for of one loaded description. Returns false when there is no such object.
@@ -79,7 +73,7 @@ bool loadNormalized(ICIso15745& reader, const QString& fileName, QString& errorT
         return false;
     }
     complain(QCoreApplication::translate("xddinfo", "%1: Normalized before it was read, with %2 changes.")
-                 .arg(fileName, QString::number(normalized.changes.size())));
+                 .arg(fileName, QString::number(normalized.made())));
     return true;
 }
 
@@ -110,11 +104,11 @@ int showAll(const SRequest& request)
 {
     COutput output;
     bool ok = true;
-    for (const QString& fileName : request.fileNames) {
-        if (!request.json && fileName != request.fileNames.first()) {
+    for (int i = 0; i < request.fileNames.size(); ++i) {
+        if (!request.json && i > 0) {
             output.writeLine();
         }
-        ok = showFile(request, fileName, output) && ok;
+        ok = showFile(request, request.fileNames.at(i), output) && ok;
         if (output.failed()) {
             break;
         }

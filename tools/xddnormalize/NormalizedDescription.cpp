@@ -4,6 +4,14 @@
 
 #include <QTemporaryFile>
 
+#include <algorithm>
+
+int SNormalizedDescription::made() const
+{
+    return int(std::count_if(
+        changes.begin(), changes.end(), [](const SChange& change) { return change.rule != ERule::Left; }));
+}
+
 bool normalizeDescription(const QByteArray& original, SNormalizedDescription& normalized, QString& errorText)
 {
     CEncodedText encoded;

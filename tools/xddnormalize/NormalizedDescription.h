@@ -11,7 +11,10 @@
 struct SNormalizedDescription
 {
     QByteArray bytes;         ///< The whole file, in the encoding of the original
-    QVector<SChange> changes; ///< In the order of the text; empty when the file is the original, byte for byte
+    QVector<SChange> changes; ///< In the order of the text, with the places that were left
+
+    /** How many changes were made; what was left does not count. */
+    int made() const;
 };
 
 /** Normalises the bytes of a file. Returns false, with a message, when the file is to be left alone. */

@@ -40,11 +40,6 @@ struct SRequest
     bool quiet = false;
 };
 
-void complain(const QString& text)
-{
-    std::fprintf(stderr, "xddnormalize: %s\n", qUtf8Printable(printable(text)));
-}
-
 void reportLine(const QString& text)
 {
     std::fprintf(stderr, "%s\n", qUtf8Printable(printable(text)));
@@ -55,8 +50,9 @@ QString place(const QString& fileName, int line)
     return QStringLiteral("%1:%2: ").arg(fileName, QString::number(line));
 }
 
-void reportChanges(const SRequest& request, const QString& fileName, const QVector<SChange>& changes)
+void reportChanges(const SRequest& request, const QString& fileName, const SNormalizedDescription& normalized)
 {
+    const QVector<SChange>& changes = normalized.changes;
     QMap<ERule, QVector<SChange>> byRule;
     for (const SChange& change : changes) {
         byRule[change.rule] << change;
@@ -75,8 +71,8 @@ void reportChanges(const SRequest& request, const QString& fileName, const QVect
         }
         reportLine(place(fileName, change.line) + what + QLatin1String(", ") + reasonOf(change.rule));
     }
-    const int made = changes.size() - byRule[ERule::Left].size();
-    reportLine(QCoreApplication::translate("xddnormalize", "%1: %2 changes").arg(fileName, QString::number(made)));
+    reportLine(QCoreApplication::translate("xddnormalize", "%1: %2 changes")
+                   .arg(fileName, QString::number(normalized.made())));
 }
 
 bool readAll(const QString& fileName, QByteArray& bytes, QString& errorText)
@@ -147,7 +143,7 @@ bool normalizeFile(const SRequest& request, const QString& fileName)
         return false;
     }
     if (!request.quiet) {
-        reportChanges(request, fileName, normalized.changes);
+        reportChanges(request, fileName, normalized);
     }
     const QString output = outputOf(request, fileName);
     const bool needed = !request.dryRun && (!request.inPlace || normalized.bytes != bytes);
