@@ -17,14 +17,15 @@ function(mvx_target_defaults target)
         QT_NO_URL_CAST_FROM_STRING)
 endfunction()
 
-# A shared library of the project: hidden visibility with a generated export header `<target>_export.h`, the so-name
-# of the project, its public headers, and an alias in the namespace under which an installed library is found.
+# A shared library of the project: hidden visibility, the so-name of the project, its public headers, and an alias in the
+# namespace under which an installed library is found. `<TARGET>_LIBRARY` tells its export header that it is being built.
 function(mvx_shared_library target)
     cmake_parse_arguments(ARG "" "HEADER_DIR" "HEADERS" ${ARGN})
     list(TRANSFORM ARG_HEADERS PREPEND ${ARG_HEADER_DIR}/)
-    set(export_dir ${CMAKE_CURRENT_BINARY_DIR}/export)
+    string(TOUPPER ${target} upper)
 
     mvx_target_defaults(${target})
+    target_compile_definitions(${target} PRIVATE ${upper}_LIBRARY)
     set_target_properties(${target} PROPERTIES
         VERSION ${PROJECT_VERSION}
         SOVERSION ${MVX_SOVERSION}
@@ -32,11 +33,10 @@ function(mvx_shared_library target)
         VISIBILITY_INLINES_HIDDEN ON
         INSTALL_RPATH "$ORIGIN"
         VERIFY_INTERFACE_HEADER_SETS ON)
-    generate_export_header(${target} EXPORT_FILE_NAME ${export_dir}/${target}_export.h)
     target_sources(${target} PUBLIC
         FILE_SET HEADERS
-        BASE_DIRS ${ARG_HEADER_DIR} ${export_dir}
-        FILES ${ARG_HEADERS} ${export_dir}/${target}_export.h)
+        BASE_DIRS ${ARG_HEADER_DIR}
+        FILES ${ARG_HEADERS})
     add_library(mvx::${target} ALIAS ${target})
 endfunction()
 

@@ -1,8 +1,9 @@
 #include "CDomDoc.h"
 
+#include "CXmlValue.h"
+
 #include <QCoreApplication>
 
-#include <algorithm>
 #include <limits>
 #include <optional>
 
@@ -84,141 +85,6 @@ QString date()
     return QCoreApplication::translate("CDomDoc", "a date year-month-day (yyyy-MM-dd)");
 }
 
-// Conversions: the value of a text, or nothing when the text is not a value of the type.
-
-// The value of a digit in bases up to 36, or a value beyond all of them for a character that is none.
-unsigned int digitValue(QChar character)
-{
-    const ushort code = character.unicode();
-    if (code >= '0' && code <= '9') {
-        return code - '0';
-    }
-    if (code >= 'a' && code <= 'z') {
-        return code - 'a' + 10;
-    }
-    if (code >= 'A' && code <= 'Z') {
-        return code - 'A' + 10;
-    }
-    return 36;
-}
-
-bool hasHexadecimalPrefix(QStringView digits)
-{
-    return digits.size() > 1 && digits[0] == QLatin1Char('0')
-           && (digits[1] == QLatin1Char('x') || digits[1] == QLatin1Char('X'));
-}
-
-// Converts like QString::toUInt, but takes no sign, knows the range of the type, and works without a copy of the text.
-template <typename Number> std::optional<Number> toNumber(const QString& text, int base)
-{
-    QStringView digits = QStringView(text).trimmed();
-    if (base == 0 || base == 16) {
-        if (hasHexadecimalPrefix(digits)) {
-            base = 16;
-            digits = digits.mid(2);
-        } else if (base == 0) {
-            base = digits.startsWith(QLatin1Char('0')) ? 8 : 10;
-        }
-    }
-    if (digits.isEmpty()) {
-        return std::nullopt;
-    }
-    quint64 value = 0;
-    for (const QChar character : digits) {
-        const unsigned int digit = digitValue(character);
-        value = value * static_cast<unsigned int>(base) + digit;
-        if (digit >= static_cast<unsigned int>(base) || value > std::numeric_limits<Number>::max()) {
-            return std::nullopt;
-        }
-    }
-    return static_cast<Number>(value);
-}
-
-std::optional<bool> toBool(const QString& text, const QString& trueText, const QString& falseText)
-{
-    const QString value = text.trimmed();
-    if (value == trueText) {
-        return true;
-    }
-    if (value == falseText) {
-        return false;
-    }
-    return std::nullopt;
-}
-
-bool isDigit(QChar character)
-{
-    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
-}
-
-// True when the text has the length of the pattern, a digit wherever the pattern has a 9, and is equal elsewhere.
-// Qt's own ISO conversions are checked with it because they accept other separators and trailing text.
-bool matches(const QString& text, QLatin1String pattern)
-{
-    return std::equal(text.begin(), text.end(), pattern.begin(), pattern.end(), [](QChar character, char expected) {
-        return expected == '9' ? isDigit(character) : character == QLatin1Char(expected);
-    });
-}
-
-int numberAt(const QString& text, int position, int digits)
-{
-    return text.midRef(position, digits).toInt();
-}
-
-// The text without surrounding white space and without the time zone of XML Schema: "Z" or an offset up to 14:00.
-QString withoutZone(const QString& text)
-{
-    QString value = text.trimmed();
-    if (value.endsWith(QLatin1Char('Z'))) {
-        return value.chopped(1);
-    }
-    const QString zone = value.right(6);
-    if (matches(zone, QLatin1String("+99:99")) || matches(zone, QLatin1String("-99:99"))) {
-        const int minutes = numberAt(zone, 4, 2);
-        if (minutes < 60 && numberAt(zone, 1, 2) * 60 + minutes <= 14 * 60) {
-            return value.chopped(6);
-        }
-    }
-    return value;
-}
-
-std::optional<QDate> toDate(const QString& text)
-{
-    const QString value = withoutZone(text);
-    const QDate date(numberAt(value, 0, 4), numberAt(value, 5, 2), numberAt(value, 8, 2));
-    if (!matches(value, QLatin1String("9999-99-99")) || !date.isValid()) {
-        return std::nullopt;
-    }
-    return date;
-}
-
-// The milliseconds of a fraction of a second with its point, 0 for an empty one; further digits are cut off.
-std::optional<int> toMilliseconds(const QString& fraction)
-{
-    if (fraction.isEmpty()) {
-        return 0;
-    }
-    if (!fraction.startsWith(QLatin1Char('.')) || fraction.size() == 1
-        || !std::all_of(fraction.begin() + 1, fraction.end(), isDigit)) {
-        return std::nullopt;
-    }
-    return numberAt(fraction.leftJustified(4, QLatin1Char('0')), 1, 3);
-}
-
-std::optional<QTime> toTime(const QString& text)
-{
-    const QString value = withoutZone(text);
-    const std::optional<int> milliseconds = toMilliseconds(value.mid(8));
-    if (!matches(value.left(8), QLatin1String("99:99:99")) || !milliseconds) {
-        return std::nullopt;
-    }
-    const QTime time(numberAt(value, 0, 2), numberAt(value, 3, 2), numberAt(value, 6, 2), *milliseconds);
-    if (!time.isValid()) {
-        return std::nullopt;
-    }
-    return time;
-}
-
 // Finds the text of an item. Returns false, with an empty text, when there is no such item.
 bool findText(EItem item, const QString& name, const QDomElement& element, QString& text)
 {
@@ -271,6 +137,12 @@ CDomDoc::EResult readValue(
     }
     value = *converted;
     return CDomDoc::EResult::Success;
+}
+
+template <typename Number> std::optional<Number> toNumber(const QString& text, int base)
+{
+    const std::optional<unsigned int> number = CXmlValue::toNumber(text, base, std::numeric_limits<Number>::max());
+    return number ? std::optional<Number>(static_cast<Number>(*number)) : std::nullopt;
 }
 
 // Reporting form for numbers.
@@ -336,7 +208,7 @@ CDomDoc::EResult CDomDoc::existingSubElementAsU32(
 
 QDate CDomDoc::existingSubElementAsDate(const QString& name, const QDomElement& element, const QDate& defaultValue)
 {
-    return toDate(element.firstChildElement(name).text()).value_or(defaultValue);
+    return CXmlValue::toDate(element.firstChildElement(name).text()).value_or(defaultValue);
 }
 
 CDomDoc::EResult CDomDoc::existingAttribute(
@@ -380,7 +252,7 @@ CDomDoc::EResult CDomDoc::existingAttributeAsBool(
 {
     return readValue(
         EItem::Attribute, name, element, value, errorText,
-        [&](const QString& text) { return toBool(text, trueText, falseText); },
+        [&](const QString& text) { return CXmlValue::toBool(text, trueText, falseText); },
         [&] { return boolean(trueText, falseText); });
 }
 
@@ -389,22 +261,23 @@ bool CDomDoc::existingAttributeAsBool(
     const QString& falseText)
 {
     QString text;
-    return findText(EItem::Attribute, name, element, text) ? toBool(text, trueText, falseText).value_or(defaultValue)
-                                                           : defaultValue;
+    return findText(EItem::Attribute, name, element, text)
+               ? CXmlValue::toBool(text, trueText, falseText).value_or(defaultValue)
+               : defaultValue;
 }
 
 CDomDoc::EResult CDomDoc::existingAttributeAsDate(
     const QString& name, const QDomElement& element, QDate& value, QString& errorText)
 {
-    return readValue(EItem::Attribute, name, element, value, errorText, toDate, date);
+    return readValue(EItem::Attribute, name, element, value, errorText, CXmlValue::toDate, date);
 }
 
 QDate CDomDoc::existingAttributeAsDate(const QString& name, const QDomElement& element, const QDate& defaultValue)
 {
-    return toDate(element.attribute(name)).value_or(defaultValue);
+    return CXmlValue::toDate(element.attribute(name)).value_or(defaultValue);
 }
 
 QTime CDomDoc::existingAttributeAsTime(const QString& name, const QDomElement& element, const QTime& defaultValue)
 {
-    return toTime(element.attribute(name)).value_or(defaultValue);
+    return CXmlValue::toTime(element.attribute(name)).value_or(defaultValue);
 }

@@ -22,15 +22,9 @@
  *
  * A child element is a direct child with exactly that tag name, the first one in document order. An attribute is one
  * of the element itself. Both are compared by local name, case-sensitively. An item that is present but empty is
- * there: it reads as an empty text. White space around numbers, booleans, dates and times is ignored; texts are
- * returned as they stand.
+ * there: it reads as an empty text. Texts are returned as they stand.
  *
- * Numbers are read in the given base with the meaning of QString::toUInt: 16 reads hexadecimal digits with or without
- * "0x"; 0 lets the prefix decide, hexadecimal after "0x", octal after a leading "0", decimal otherwise. A sign, a
- * fraction, further text or a number too large for the type do not convert.
- *
- * Dates are written yyyy-MM-dd and times hh:mm:ss with an optional fraction of a second, of which milliseconds are
- * kept. Both may carry a time zone ("Z", "+02:00"), which is dropped: "11:06:00+02:00" is 11:06:00.
+ * Numbers, booleans, dates and times convert as CXmlValue says.
  *
  * The functions keep no state and only read the element, so they may run on any thread as long as nobody changes the
  * document meanwhile.

@@ -1,5 +1,6 @@
 #include "CIso15745Impl.h"
 
+#include "CChildElements.h"
 #include "CLimitedXmlReader.h"
 #include "NIso15745Tags.h"
 #include "XmlValues.h"
@@ -79,28 +80,57 @@ bool parseReadOnly(const QDomElement& element, bool& readOnly, QString& errorTex
         CDomDoc::existingAttributeAsBool(ATTR_READ_ONLY, element, readOnly, errorText, VALUE_TRUE, VALUE_FALSE));
 }
 
+// The names of the attributes of objects and sub-objects. A dictionary asks for the same ones thousands of times, so
+// they are converted once; as temporaries they would be a quarter of what reading costs beyond parsing.
+struct SEntryNames
+{
+    QString index = ATTR_INDEX;
+    QString subIndex = ATTR_SUB_INDEX;
+    QString name = ATTR_NAME;
+    QString objectType = ATTR_OBJECT_TYPE;
+    QString dataType = ATTR_DATA_TYPE;
+    QString lowLimit = ATTR_LOW_LIMIT;
+    QString highLimit = ATTR_HIGH_LIMIT;
+    QString accessType = ATTR_ACCESS_TYPE;
+    QString defaultValue = ATTR_DEFAULT_VALUE;
+    QString actualValue = ATTR_ACTUAL_VALUE;
+    QString denotation = ATTR_DENOTATION;
+    QString pdoMapping = ATTR_PDO_MAPPING;
+    QString objFlags = ATTR_OBJ_FLAGS;
+    QString uniqueIdRef = ATTR_UNIQUE_ID_REF;
+    QString subNumber = ATTR_SUB_NUMBER;
+    QString subObject = TAG_CAN_OPEN_SUB_OBJECT;
+};
+
+const SEntryNames& entryNames()
+{
+    static const SEntryNames names;
+    return names;
+}
+
 // What objects and sub-objects have in common. Their index is read from an attribute of its own name.
 bool parseObjectAttributes(
     const QString& indexName, const QDomElement& element, CCanOpenSubObject& object, QString& errorText)
 {
+    const SEntryNames& names = entryNames();
     if (!CDomDoc::success(CDomDoc::existingAttributeAsU32(indexName, element, object.mIndex, errorText, HEXADECIMAL))
-        || !CDomDoc::success(CDomDoc::existingAttribute(ATTR_NAME, element, object.mName, errorText))
+        || !CDomDoc::success(CDomDoc::existingAttribute(names.name, element, object.mName, errorText))
         || !CDomDoc::success(
-            CDomDoc::existingAttributeAsU8(ATTR_OBJECT_TYPE, element, object.mObjectType, errorText, BY_PREFIX))) {
+            CDomDoc::existingAttributeAsU8(names.objectType, element, object.mObjectType, errorText, BY_PREFIX))) {
         return false;
     }
-    object.mDataType = CDomDoc::existingAttributeAsU8(ATTR_DATA_TYPE, element, 0, BY_PREFIX);
-    object.mLowLimit = CDomDoc::existingAttribute(ATTR_LOW_LIMIT, element, QString());
-    object.mHighLimit = CDomDoc::existingAttribute(ATTR_HIGH_LIMIT, element, QString());
+    object.mDataType = CDomDoc::existingAttributeAsU8(names.dataType, element, 0, BY_PREFIX);
+    object.mLowLimit = CDomDoc::existingAttribute(names.lowLimit, element, QString());
+    object.mHighLimit = CDomDoc::existingAttribute(names.highLimit, element, QString());
     object.mAccessType =
-        CCanOpenSubObject::accessTypeFromStr(CDomDoc::existingAttribute(ATTR_ACCESS_TYPE, element, QString()));
-    object.mDefaultValue = CDomDoc::existingAttribute(ATTR_DEFAULT_VALUE, element, QString());
-    object.mActualValue = CDomDoc::existingAttribute(ATTR_ACTUAL_VALUE, element, QString());
-    object.mDenotation = CDomDoc::existingAttribute(ATTR_DENOTATION, element, QString());
+        CCanOpenSubObject::accessTypeFromStr(CDomDoc::existingAttribute(names.accessType, element, QString()));
+    object.mDefaultValue = CDomDoc::existingAttribute(names.defaultValue, element, QString());
+    object.mActualValue = CDomDoc::existingAttribute(names.actualValue, element, QString());
+    object.mDenotation = CDomDoc::existingAttribute(names.denotation, element, QString());
     object.mPdoMapping =
-        CCanOpenSubObject::pdoMappingFromStr(CDomDoc::existingAttribute(ATTR_PDO_MAPPING, element, QString()));
-    object.mObjFlags = CDomDoc::existingAttributeAsU32(ATTR_OBJ_FLAGS, element, 0, HEXADECIMAL);
-    object.mUniqueIdRef = CDomDoc::existingAttribute(ATTR_UNIQUE_ID_REF, element, QString());
+        CCanOpenSubObject::pdoMappingFromStr(CDomDoc::existingAttribute(names.pdoMapping, element, QString()));
+    object.mObjFlags = CDomDoc::existingAttributeAsU32(names.objFlags, element, 0, HEXADECIMAL);
+    object.mUniqueIdRef = CDomDoc::existingAttribute(names.uniqueIdRef, element, QString());
     return true;
 }
 
@@ -198,13 +228,16 @@ bool CIso15745Impl::parseRootFromDOM(const QDomElement& root, QString& errorText
         mSchemaLocation = schemaLocation.value();
     }
 
-    QDomElement profile;
-    bool ok = CDomDoc::success(CDomDoc::existingSubElement(TAG_PROFILE, root, profile, errorText));
-    while (ok && !profile.isNull()) {
-        ok = parseIso15745ProfileFromDOM(profile, errorText);
-        profile = profile.nextSiblingElement(TAG_PROFILE);
+    QDomElement first;
+    if (!CDomDoc::success(CDomDoc::existingSubElement(TAG_PROFILE, root, first, errorText))) {
+        return false;
     }
-    return ok;
+    for (const QDomElement& profile : CChildElements(root, TAG_PROFILE)) {
+        if (!parseIso15745ProfileFromDOM(profile, errorText)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 bool CIso15745Impl::parseIso15745ProfileFromDOM(const QDomElement& profile, QString& errorText)
@@ -270,15 +303,14 @@ bool CIso15745Impl::parseGLabel(const QDomElement& element, CGLabel& label, QStr
 bool CIso15745Impl::parseGLabels(const QDomElement& element, CGLabels& labels, QString& errorText)
 {
     labels.clear();
-    bool ok = true;
-    QDomElement entry = element.firstChildElement();
-    while (ok && !entry.isNull()) {
+    bool complete = true;
+    for (const QDomElement& entry : CChildElements(element)) {
         CGLabel label;
-        ok = parseGLabel(entry, label, errorText);
-        if (ok) {
-            labels.append(label);
+        complete = parseGLabel(entry, label, errorText);
+        if (!complete) {
+            break;
         }
-        entry = entry.nextSiblingElement();
+        labels.append(label);
     }
     // Also reached when the first entry was not valid: this message then takes the place of the entry's own.
     if (labels.isEmpty()) {
@@ -287,7 +319,7 @@ bool CIso15745Impl::parseGLabels(const QDomElement& element, CGLabels& labels, Q
                         .arg(element.tagName(), QString::number(element.lineNumber()));
         return false;
     }
-    return ok;
+    return complete;
 }
 
 bool CIso15745Impl::parseWriteProtectedString(
@@ -312,14 +344,12 @@ bool CIso15745Impl::parseWriteProtectedGLables(
 void CIso15745Impl::parseVersions(const QDomElement& parent, QList<CVersion>& versions)
 {
     versions.clear();
-    QDomElement element = CDomDoc::existingSubElement(TAG_VERSION, parent);
-    while (!element.isNull()) {
+    for (const QDomElement& element : CChildElements(parent, TAG_VERSION)) {
         CVersion version(CDomDoc::existingAttributeAsBool(ATTR_READ_ONLY, element, false, VALUE_TRUE, VALUE_FALSE));
         version.mValue = element.text();
         version.mVersionType =
             CVersion::versionTypeFromStr(CDomDoc::existingAttribute(ATTR_VERSION_TYPE, element, QString()));
         versions.append(version);
-        element = element.nextSiblingElement(TAG_VERSION);
     }
 }
 
@@ -340,7 +370,8 @@ bool CIso15745Impl::parseDeviceIdentityFromDOM(const QDomElement& identity, CDev
     const bool complete = parseWriteProtectedString(TAG_VENDOR_NAME, identity, profile.mVendorName, errorText)
                           && parseWriteProtectedString(TAG_PRODUCT_NAME, identity, profile.mProductName, errorText);
 
-    // The rest is optional: what is missing or malformed keeps its field as it is, without a message.
+    // The rest is optional and fails without a message. A missing element keeps its field; a malformed one may have
+    // stored a part: a text without "readOnly" its text, a list of labels those before the first bad one.
     QString ignored;
     parseWriteProtectedString(TAG_VENDOR_ID, identity, profile.mVendorId, ignored);
     parseWriteProtectedGLables(TAG_VENDOR_TEXT, identity, profile.mVendorText, ignored);
@@ -427,7 +458,7 @@ bool CIso15745Impl::parseNetworkApplicationLayersFromDOM(
     }
     const QDomElement identity = CDomDoc::existingSubElement(TAG_IDENTITY, layers);
     if (!identity.isNull()) {
-        // All of it is optional: what is missing or malformed keeps its field as it is, without a message.
+        // All of it is optional, as in the identity of a device.
         QString ignored;
         parseWriteProtectedString(TAG_VENDOR_ID, identity, profile.mVendorId, ignored);
         parseWriteProtectedGLables(TAG_DEVICE_FAMILY, identity, profile.mDeviceFamily, ignored);
@@ -457,9 +488,11 @@ bool CIso15745Impl::parseNetworkBaudRateFromDOM(
         CNetworkCanOpenProfile::baudrateFromStr(CDomDoc::existingAttribute(ATTR_DEFAULT_VALUE, baudRate, QString()));
 
     profile.mSupportedBaudRates.clear();
-    QDomElement supported;
-    bool ok = CDomDoc::success(CDomDoc::existingSubElement(TAG_SUPPORTED_BAUD_RATE, baudRate, supported, errorText));
-    while (ok && !supported.isNull()) {
+    QDomElement first;
+    if (!CDomDoc::success(CDomDoc::existingSubElement(TAG_SUPPORTED_BAUD_RATE, baudRate, first, errorText))) {
+        return false;
+    }
+    for (const QDomElement& supported : CChildElements(baudRate, TAG_SUPPORTED_BAUD_RATE)) {
         QString text;
         if (!CDomDoc::success(CDomDoc::existingAttribute(ATTR_VALUE, supported, text, errorText))) {
             return false;
@@ -473,51 +506,61 @@ bool CIso15745Impl::parseNetworkBaudRateFromDOM(
             return false;
         }
         profile.mSupportedBaudRates.append(rate);
-        supported = supported.nextSiblingElement(TAG_SUPPORTED_BAUD_RATE);
     }
-    return ok;
+    return true;
+}
+
+bool CIso15745Impl::parseNetworkManagementFromDOM(
+    const QDomElement& /*management*/, CNetworkCanOpenProfile& /*profile*/, QString& /*errorText*/)
+{
+    return true; // Nothing of it is read.
+}
+
+bool CIso15745Impl::parseObjects(const QDomElement& list, CNetworkCanOpenProfile& profile, QString& errorText)
+{
+    QDomElement first;
+    if (!CDomDoc::success(CDomDoc::existingSubElement(TAG_CAN_OPEN_OBJECT, list, first, errorText))) {
+        return false;
+    }
+    for (const QDomElement& element : CChildElements(list, TAG_CAN_OPEN_OBJECT)) {
+        CCanOpenObject object;
+        if (!parseCanObjectFromDOM(element, object, errorText)) {
+            return false;
+        }
+        if (profile.mObjects.contains(object.mIndex)) {
+            errorText = duplicateObjectMessage(element, object.mIndex);
+            return false;
+        }
+        profile.mObjects.insert(object.mIndex, object);
+    }
+    return true;
 }
 
 bool CIso15745Impl::parseNetworkCanOpenObjectListFromDOM(
     const QDomElement& list, CNetworkCanOpenProfile& profile, QString& errorText)
 {
-    QDomElement element;
-    bool ok = CDomDoc::success(CDomDoc::existingSubElement(TAG_CAN_OPEN_OBJECT, list, element, errorText));
-    while (ok && !element.isNull()) {
-        CCanOpenObject object;
-        ok = parseCanObjectFromDOM(element, object, errorText);
-        if (ok && profile.mObjects.contains(object.mIndex)) {
-            errorText = duplicateObjectMessage(element, object.mIndex);
-            ok = false;
-        }
-        if (ok) {
-            profile.mObjects.insert(object.mIndex, object);
-            element = element.nextSiblingElement(TAG_CAN_OPEN_OBJECT);
-        }
-    }
+    const bool complete = parseObjects(list, profile, errorText);
 
     // The counts are read whatever happened to the objects.
     profile.mMandatoryObjects = CDomDoc::existingAttributeAsU32(ATTR_MANDATORY_OBJECTS, list, 0, BY_PREFIX);
     profile.mOptionalObjects = CDomDoc::existingAttributeAsU32(ATTR_OPTIONAL_OBJECTS, list, 0, BY_PREFIX);
     profile.mManufacturerObjects = CDomDoc::existingAttributeAsU32(ATTR_MANUFACTURER_OBJECTS, list, 0, BY_PREFIX);
-    return ok;
+    return complete;
 }
 
 bool CIso15745Impl::parseCanObjectFromDOM(const QDomElement& element, CCanOpenObject& object, QString& errorText)
 {
-    if (!parseObjectAttributes(ATTR_INDEX, element, object, errorText)) {
+    const SEntryNames& names = entryNames();
+    if (!parseObjectAttributes(names.index, element, object, errorText)) {
         return false;
     }
-    object.mSubNumber = CDomDoc::existingAttributeAsU8(ATTR_SUB_NUMBER, element, 0, BY_PREFIX);
-
-    QDomElement child = CDomDoc::existingSubElement(TAG_CAN_OPEN_SUB_OBJECT, element);
-    while (!child.isNull()) {
+    object.mSubNumber = CDomDoc::existingAttributeAsU8(names.subNumber, element, 0, BY_PREFIX);
+    for (const QDomElement& child : CChildElements(element, names.subObject)) {
         object.mSubObjects.append(CCanOpenSubObject());
         if (!parseCanSubObjectFromDOM(child, object.mSubObjects.last(), errorText)) {
             object.mSubObjects.removeLast();
             return false;
         }
-        child = child.nextSiblingElement(TAG_CAN_OPEN_SUB_OBJECT);
     }
     return true;
 }
@@ -525,5 +568,5 @@ bool CIso15745Impl::parseCanObjectFromDOM(const QDomElement& element, CCanOpenOb
 bool CIso15745Impl::parseCanSubObjectFromDOM(
     const QDomElement& element, CCanOpenSubObject& subObject, QString& errorText)
 {
-    return parseObjectAttributes(ATTR_SUB_INDEX, element, subObject, errorText);
+    return parseObjectAttributes(entryNames().subIndex, element, subObject, errorText);
 }

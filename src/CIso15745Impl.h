@@ -58,10 +58,13 @@ private:
     bool parseNetworkTransportLayersFromDOM(
         const QDomElement& layers, CNetworkCanOpenProfile& profile, QString& errorText);
     bool parseNetworkBaudRateFromDOM(const QDomElement& baudRate, CNetworkCanOpenProfile& profile, QString& errorText);
+    bool parseNetworkManagementFromDOM(
+        const QDomElement& management, CNetworkCanOpenProfile& profile, QString& errorText);
 
     // The object dictionary
     bool parseNetworkCanOpenObjectListFromDOM(
         const QDomElement& list, CNetworkCanOpenProfile& profile, QString& errorText);
+    bool parseObjects(const QDomElement& list, CNetworkCanOpenProfile& profile, QString& errorText);
     bool parseCanObjectFromDOM(const QDomElement& element, CCanOpenObject& object, QString& errorText);
     bool parseCanSubObjectFromDOM(const QDomElement& element, CCanOpenSubObject& subObject, QString& errorText);
 

@@ -1,6 +1,7 @@
 #include "CLimitedXmlReader.h"
 
-#include <QCoreApplication>
+#include "CXmlLimits.h"
+
 #include <QDomDocument>
 #include <QVector>
 #include <QXmlDefaultHandler>
@@ -104,10 +105,8 @@ private:
     // The parser reports the namespace declarations of an element before the element itself.
     bool startPrefixMapping(const QString& prefix, const QString& uri) override
     {
-        if (++mNamespaces > CLimitedXmlReader::MAX_NAMESPACES) {
-            return refuse(
-                QCoreApplication::translate("CIso15745Impl", "more than %1 namespace declarations are in force")
-                    .arg(CLimitedXmlReader::MAX_NAMESPACES));
+        if (++mNamespaces > CXmlLimits::MAX_NAMESPACES) {
+            return refuse(CXmlLimits::tooManyNamespaces());
         }
         return mContentHandler->startPrefixMapping(prefix, uri);
     }
@@ -116,13 +115,11 @@ private:
         const QString& namespaceURI, const QString& localName, const QString& qName,
         const QXmlAttributes& attributes) override
     {
-        if (mOpenElements.size() == CLimitedXmlReader::MAX_DEPTH) {
-            return refuse(QCoreApplication::translate("CIso15745Impl", "elements are nested deeper than %1 levels")
-                              .arg(CLimitedXmlReader::MAX_DEPTH));
+        if (mOpenElements.size() == CXmlLimits::MAX_DEPTH) {
+            return refuse(CXmlLimits::tooDeep());
         }
-        if (attributes.count() > CLimitedXmlReader::MAX_ATTRIBUTES) {
-            return refuse(QCoreApplication::translate("CIso15745Impl", "an element has more than %1 attributes")
-                              .arg(CLimitedXmlReader::MAX_ATTRIBUTES));
+        if (attributes.count() > CXmlLimits::MAX_ATTRIBUTES) {
+            return refuse(CXmlLimits::tooManyAttributes());
         }
         mOpenElements.append(mNamespaces);
         return mContentHandler->startElement(namespaceURI, localName, qName, attributes);
@@ -140,8 +137,7 @@ private:
         // The parser comes here when it has taken the first character after the "[" that opens an internal subset and
         // the white space behind it, or else the ">" that ends the declaration.
         if (mSource.previous() == QLatin1Char('[')) {
-            return refuse(
-                QCoreApplication::translate("CIso15745Impl", "the document type declaration has an internal subset"));
+            return refuse(CXmlLimits::internalSubset());
         }
         return mLexicalHandler->startDTD(name, publicId, systemId);
     }

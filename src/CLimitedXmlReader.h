@@ -10,26 +10,16 @@ class QString;
  *
  * Qt's parser and its document have no limits of their own: they recurse over nested elements and nested content
  * models until the stack is used up, compare every attribute of an element with every other, and expand entities
- * without end. This reader counts while the parser works. A file within the limits gives the document, and a malformed
- * one the message, line and column, that QDomDocument::setContent gives for it with namespace processing; a file beyond
- * them is a parse error at the place where it meets the limit. So is a document type declaration with an internal
- * subset, the place of entities and content models, which the format has no use for.
+ * without end. This reader counts while the parser works, up to the limits of CXmlLimits.
+ *
+ * Within them it gives what QDomDocument::setContent gives with namespace processing: a malformed file the same
+ * message, line and column, a well-formed one the same elements, attributes, texts and line numbers, which is all that
+ * a record is read from. (Only where an attribute holds a reference to an entity that nobody declared may the nodes
+ * differ.) A file beyond the limits is a parse error at the place where it meets them.
  */
 class CLimitedXmlReader
 {
 public:
-    /** Deepest nesting of elements. Qt needs about 330 bytes of stack for each level, and everything that walks or
-     * releases a document recurses as well. Descriptions nest some 15 levels; 256 is what other parsers allow. */
-    static constexpr int MAX_DEPTH = 256;
-
-    /** Most attributes of one element. Adding one costs the document a comparison with all that are there. An object
-     * has 14 at most. */
-    static constexpr int MAX_ATTRIBUTES = 256;
-
-    /** Most namespace declarations that are in force at one place of the file. At the end of every element the parser
-     * compares all of their prefixes with each other. Descriptions declare three or four. */
-    static constexpr int MAX_NAMESPACES = 64;
-
     /**
      * Parses a device into a document.
      *

@@ -6,20 +6,26 @@
 #include <QStringList>
 #include <QTranslator>
 
-#include <memory>
-
-void installCatalogue()
+namespace
 {
-    const QStringList folders = {
-        QCoreApplication::applicationDirPath() + QLatin1String("/" CATALOGUE_FOLDER),
-        QLibraryInfo::location(QLibraryInfo::TranslationsPath),
-    };
-    auto translator = std::make_unique<QTranslator>();
+// Installs the first catalogue of that name; the application ends it.
+void install(const QString& name, const QStringList& folders)
+{
+    auto* const translator = new QTranslator(QCoreApplication::instance());
     for (const QString& folder : folders) {
-        if (translator->load(QLocale(), QStringLiteral("mvxIso15745Xml"), QStringLiteral("_"), folder)) {
-            translator->setParent(QCoreApplication::instance()); // Which installs it, and ends it
-            QCoreApplication::installTranslator(translator.release());
+        if (translator->load(QLocale(), name, QStringLiteral("_"), folder)) {
+            QCoreApplication::installTranslator(translator);
             return;
         }
     }
+}
+} // namespace
+
+void installCatalogue()
+{
+    const QString qtFolder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+    install(QStringLiteral("qtbase"), {qtFolder});
+    install(
+        QStringLiteral("mvxIso15745Xml"),
+        {QCoreApplication::applicationDirPath() + QLatin1String("/" CATALOGUE_FOLDER), qtFolder});
 }

@@ -2,7 +2,7 @@
 #define TOOLS_CATALOGUE_H
 
 /**
- * Installs the catalogue of the user's language, for the messages of the library and of the tools. It is looked for
+ * Installs the catalogues of the user's language: Qt's own, and that of the library and the tools, which is looked for
  * beside the program, as it is installed, and then where Qt keeps the catalogues of libraries. Without one everything
  * stays English.
  */

@@ -1,6 +1,7 @@
 #include "CJsonReport.h"
 
 #include "COutput.h"
+#include "Messages.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -207,16 +208,41 @@ CJsonReport::CJsonReport(COutput& output)
     : mOutput(output)
 {}
 
-void CJsonReport::showDescription(const QString& fileName, ICIso15745& reader)
+void CJsonReport::showDescription(const SShownDescription& description)
 {
+    const CXddStated& stated = description.stated;
+    QJsonObject device = toJson(description.reader->deviceProfile());
+    QJsonObject network = toJson(description.reader->networkProfile());
+    // What the library or the normaliser supplied is not stated by the file.
+    const auto clear = [](QJsonObject& object, const char* name, bool isStated, const QJsonValue& nothing) {
+        if (!isStated) {
+            object[key(name)] = nothing;
+        }
+    };
+    clear(device, "fileCreationDate", stated.mDeviceCreationDate, QJsonValue());
+    clear(network, "fileCreationDate", stated.mNetworkCreationDate, QJsonValue());
+    clear(network, "mandatoryObjects", stated.mMandatoryObjects, QJsonValue());
+    clear(network, "optionalObjects", stated.mOptionalObjects, QJsonValue());
+    clear(network, "manufacturerObjects", stated.mManufacturerObjects, QJsonValue());
+    clear(network, "baudRate", stated.mBaudRate, QJsonValue());
+    clear(network, "supportedBaudRates", stated.mSupportedBaudRates, QJsonArray());
     mOutput.writeLine(oneLine({
-        {key("file"), fileName},
-        {key("deviceProfile"), toJson(reader.deviceProfile())},
-        {key("networkProfile"), toJson(reader.networkProfile())},
+        {key("file"), description.fileName},
+        {key("deviceProfile"), device},
+        {key("networkProfile"), network},
     }));
 }
 
-void CJsonReport::showObject(const QString& fileName, const CCanOpenObject& object)
+void CJsonReport::showEntries(const SShownDescription& description, const QVector<SShownEntry>& entries)
 {
-    mOutput.writeLine(oneLine({{key("file"), fileName}, {key("object"), toJson(object)}}));
+    for (const SShownEntry& entry : entries) {
+        QJsonObject json{{key("file"), description.fileName}};
+        if (entry.subObject) {
+            json[key("index")] = toJson(entry.object.mIndex);
+            json[key("subObject")] = toJson(*entry.subObject);
+        } else {
+            json[key("object")] = toJson(entry.object);
+        }
+        mOutput.writeLine(oneLine(json));
+    }
 }

@@ -1,7 +1,9 @@
 #ifndef XDDINFO_CJSONREPORT_H
 #define XDDINFO_CJSONREPORT_H
 
-#include <ICIso15745.h>
+#include "ShownDescription.h"
+
+#include <QVector>
 
 class COutput;
 
@@ -10,18 +12,18 @@ class COutput;
  *
  * The keys are the names of the elements and attributes, with a plural for lists ("versions", "objects"). Enumerations
  * are the texts of the format, bit rates kbit/s with 0 for automatic detection, dates and times ISO 8601 texts.
- * Whatever the description does not give, or gives in an unknown form, is null, or an empty text or list.
+ * Whatever the description does not state itself, or states in an unknown form, is null, or an empty text or list.
  */
 class CJsonReport
 {
 public:
     explicit CJsonReport(COutput& output);
 
-    /** Shows the whole model. @p fileName is the file that it came from. */
-    void showDescription(const QString& fileName, ICIso15745& reader);
+    /** Shows the whole model. */
+    void showDescription(const SShownDescription& description);
 
-    /** Shows one object. */
-    void showObject(const QString& fileName, const CCanOpenObject& object);
+    /** Shows objects and sub-objects, each on a line of its own. */
+    void showEntries(const SShownDescription& description, const QVector<SShownEntry>& entries);
 
 private:
     COutput& mOutput;

@@ -1,10 +1,12 @@
 #ifndef XDDINFO_CTEXTREPORT_H
 #define XDDINFO_CTEXTREPORT_H
 
-#include <ICIso15745.h>
+#include "PdoMappings.h"
+#include "ShownDescription.h"
+
+#include <CCanOpenNames.h>
 
 #include <QCoreApplication>
-#include <QStringList>
 
 class COutput;
 
@@ -14,24 +16,32 @@ class CTextReport
     Q_DECLARE_TR_FUNCTIONS(xddinfo)
 
 public:
-    explicit CTextReport(COutput& output);
+    /** @p width is the number of columns of the terminal, 0 for any other output. */
+    CTextReport(COutput& output, int width);
 
-    /** Shows the identity, the file attributes, the bit rates and the object dictionary. @p source says where the
-     * description came from. */
-    void showDescription(const QString& source, ICIso15745& reader);
+    /** Shows the identity, the file attributes, the bit rates, the PDOs and the object dictionary. */
+    void showDescription(const SShownDescription& description);
 
-    /** Shows every field of one object and of its sub-objects. */
-    void showObject(const QString& source, const CCanOpenObject& object);
+    /** Shows every field of objects with their sub-objects, or of sub-objects. */
+    void showEntries(const SShownDescription& description, const QVector<SShownEntry>& entries);
 
 private:
+    void showSource(const SShownDescription& description);
     void showIdentity(const CDeviceProfile& device);
-    void showBitRates(const CNetworkCanOpenProfile& network);
-    void showCounts(const CNetworkCanOpenProfile& network);
+    void showStandardObjects(const QMap<unsigned int, CCanOpenObject>& objects);
+    void showFiles(const SShownDescription& description);
+    void showBitRates(const SShownDescription& description);
+    void showPdos(const QString& name, const QVector<SPdo>& pdos);
+    void showCount(
+        const QString& name, bool isStated, unsigned int stated, CCanOpenNames::EObjectKind kind,
+        const QMap<unsigned int, CCanOpenObject>& objects);
     void showDictionary(const QMap<unsigned int, CCanOpenObject>& objects);
+    void showSubObject(unsigned int index, const CCanOpenSubObject& subObject, const QString& indent);
     void showFields(const CCanOpenSubObject& entry, const QString& indent);
     void showField(const QString& indent, const QString& name, const QString& value);
 
     COutput& mOutput;
+    int mWidth;
 };
 
 #endif

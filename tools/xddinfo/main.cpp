@@ -1,37 +1,32 @@
+#include "CCommandLine.h"
 #include "CJsonReport.h"
 #include "COutput.h"
 #include "CTextReport.h"
-#include "CanOpenNames.h"
-#include "Catalogue.h"
-#include "NormalizedDescription.h"
+#include "Files.h"
+#include "Messages.h"
+#include "ObjectSelection.h"
 
-#include <ICIso15745.h>
+#include <CXddNormalizer.h>
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QFile>
+#include <QTemporaryFile>
 
-#include <csignal>
+#include <algorithm>
 #include <memory>
+
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 namespace
 {
-enum EExitStatus : int
-{
-    EXIT_ALL_SHOWN = 0,
-    EXIT_NOT_ALL_SHOWN = 1,
-    EXIT_USAGE = 2
-};
-
 // What the command line asks for.
 struct SRequest
 {
     QStringList fileNames;
-    bool sample = false; // No file was named: the embedded sample is shown
+    bool isSample = false; // No file was named: the embedded sample is shown
     bool json = false;
-    bool normalize = false;
-    bool oneObject = false;
-    unsigned int objectIndex = 0;
+    bool strict = false;
+    QVector<SObjectSelection> selections;
 };
 
 QString embeddedSample()
@@ -39,148 +34,179 @@ QString embeddedSample()
     return QStringLiteral(":/mvxIso15745Xml/xml/NLV7315602_v.xdd");
 }
 
-// Shows what was asked for of one loaded description. Returns false when there is no such object.
-bool show(const SRequest& request, const QString& fileName, ICIso15745& reader, COutput& output)
+// The width of the terminal that standard output goes to, in columns; 0 where it goes to something else.
+int terminalWidth()
 {
-    const QString source =
-        request.sample ? QCoreApplication::translate("xddinfo", "Embedded sample %1").arg(fileName) : fileName;
-    if (!request.oneObject) {
-        request.json ? CJsonReport(output).showDescription(fileName, reader)
-                     : CTextReport(output).showDescription(source, reader);
-        return true;
+    winsize size = {};
+    return isatty(STDOUT_FILENO) != 0 && ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
+}
+
+// The entries of a selection; none when there is no such object or sub-object.
+QVector<SShownEntry> entriesOf(const SObjectSelection& selection, const QMap<unsigned int, CCanOpenObject>& objects)
+{
+    QVector<SShownEntry> entries;
+    for (auto object = objects.lowerBound(selection.first); object != objects.end() && object.key() <= selection.last;
+         ++object) {
+        if (!selection.subIndex) {
+            entries << SShownEntry{*object, std::nullopt};
+            continue;
+        }
+        for (const CCanOpenSubObject& subObject : object->mSubObjects) {
+            if (subObject.mIndex == *selection.subIndex) {
+                entries << SShownEntry{*object, subObject};
+            }
+        }
     }
-    if (!reader.getObjList().contains(request.objectIndex)) {
-        complain(QCoreApplication::translate("xddinfo", "%1: There is no object %2.")
-                     .arg(fileName, indexText(request.objectIndex)));
-        return false;
+    return entries;
+}
+
+// Shows the selected entries. Returns false when there are none for one of the selections.
+bool showSelections(const SRequest& request, const SShownDescription& description, COutput& output)
+{
+    bool ok = true;
+    QVector<SShownEntry> entries;
+    for (const SObjectSelection& selection : request.selections) {
+        const QVector<SShownEntry> selected = entriesOf(selection, description.reader->getObjList());
+        if (selected.isEmpty()) {
+            complain(QCoreApplication::translate("xddinfo", "%1: There is no object %2.")
+                         .arg(description.fileName, selection.text()));
+            ok = false;
+        }
+        entries += selected;
     }
-    const CCanOpenObject object = reader.getObj(request.objectIndex);
-    request.json ? CJsonReport(output).showObject(fileName, object) : CTextReport(output).showObject(source, object);
+    if (!entries.isEmpty()) {
+        request.json ? CJsonReport(output).showEntries(description, entries)
+                     : CTextReport(output, terminalWidth()).showEntries(description, entries);
+    }
+    return ok;
+}
+
+bool show(const SRequest& request, const SShownDescription& description, COutput& output)
+{
+    if (!request.selections.isEmpty()) {
+        return showSelections(request, description, output);
+    }
+    request.json ? CJsonReport(output).showDescription(description)
+                 : CTextReport(output, terminalWidth()).showDescription(description);
     return true;
 }
 
-// Loads a description as xddnormalize would write it, and says so.
-bool loadNormalized(ICIso15745& reader, const QString& fileName, QString& errorText)
+// Says what of a description is not shown, or shown in another way than a strict reader would.
+void reportChanges(const QString& fileName, const QList<CXddChange>& changes)
 {
-    QFile file(fileName);
-    SNormalizedDescription normalized;
-    if (!file.open(QIODevice::ReadOnly)) {
-        errorText = file.errorString();
-        return false;
+    QVector<SReportLine> left;
+    for (const CXddChange& change : changes) {
+        if (!change.mChanged) {
+            left << SReportLine{change.mLine, QString(), change.mWhat, QLatin1String(", ") + change.mReason};
+        }
     }
-    if (!normalizeDescription(file.readAll(), normalized, errorText)
-        || !loadDescription(reader, normalized.bytes, errorText)) {
-        return false;
+    for (const SReportLine& line : summedUp(left)) {
+        reportLine(place(fileName, line.line) + line.text + line.ending);
     }
-    complain(QCoreApplication::translate("xddinfo", "%1: Normalized before it was read, with %2 changes.")
-                 .arg(fileName, QString::number(normalized.made())));
-    return true;
+    const auto mattering = std::count_if(
+        changes.begin(), changes.end(), [](const CXddChange& change) { return change.mChanged && change.mMatters; });
+    if (mattering > 0) {
+        complain(QCoreApplication::translate(
+                     "xddinfo", "%1: Types, access, values or rates of %2 entries are read as they are meant; "
+                                "'xddnormalize --dry-run' lists them.")
+                     .arg(fileName, QString::number(mattering)));
+    }
+}
+
+// Loads a description from `path`, which is a copy of what the user calls `fileName`.
+bool load(const SRequest& request, const QString& path, const QString& fileName, ICIso15745& reader)
+{
+    QList<CXddChange> changes;
+    QString errorText;
+    const bool loaded =
+        request.strict ? reader.load(path, errorText) : CXddNormalizer::load(reader, path, changes, errorText);
+    if (loaded) {
+        reportChanges(fileName, changes);
+        return true;
+    }
+    complainAbout(fileName, errorText.replace(path, fileName));
+    if (request.strict) {
+        const std::unique_ptr<ICIso15745> lenient(ICIso15745::create());
+        if (CXddNormalizer::load(*lenient, path, changes, errorText)) {
+            complain(QCoreApplication::translate(
+                "xddinfo", "Without --strict it is shown; xddnormalize writes a copy that loads."));
+        }
+    }
+    return false;
 }
 
 bool showFile(const SRequest& request, const QString& fileName, COutput& output)
 {
-    const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
+    QByteArray bytes;
     QString errorText;
-    const bool loaded =
-        request.normalize ? loadNormalized(*reader, fileName, errorText) : reader->load(fileName, errorText);
-    if (!loaded) {
-        complain(fileName + QLatin1String(": ") + errorText);
+    QString path = fileName;
+    QTemporaryFile copy;
+    const bool read = readFile(fileName, bytes, errorText);
+    if (fileName == standardStream()) {
+        if (!read || !copy.open() || copy.write(bytes) != bytes.size() || !copy.flush()) {
+            complainAbout(fileName, read ? copy.errorString() : errorText);
+            return false;
+        }
+        path = copy.fileName();
+    }
+    const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
+    if (!load(request, path, fileName, *reader)) {
         return false;
     }
-    return show(request, fileName, *reader, output);
-}
-
-bool finish(COutput& output)
-{
-    output.finish();
-    if (output.errorText().isEmpty()) {
-        return true;
-    }
-    complain(QCoreApplication::translate("xddinfo", "Cannot write: %1").arg(output.errorText()));
-    return false;
+    return show(request, {fileName, request.isSample, reader.get(), CXddStated::in(bytes)}, output);
 }
 
 int showAll(const SRequest& request)
 {
     COutput output;
     bool ok = true;
-    for (int i = 0; i < request.fileNames.size(); ++i) {
+    for (int i = 0; i < request.fileNames.size() && !output.failed(); ++i) {
         if (!request.json && i > 0) {
             output.writeLine();
         }
         ok = showFile(request, request.fileNames.at(i), output) && ok;
-        if (output.failed()) {
-            break;
-        }
     }
-    return finish(output) && ok ? EXIT_ALL_SHOWN : EXIT_NOT_ALL_SHOWN;
-}
-
-int refuse(const QString& reason)
-{
-    complain(reason);
-    complain(QCoreApplication::translate("xddinfo", "Try 'xddinfo --help'."));
-    return EXIT_USAGE;
-}
-
-// For --help and --version, which are results like any other.
-int print(const QString& text)
-{
-    COutput output;
-    output.writeLine(text);
-    return finish(output) ? EXIT_ALL_SHOWN : EXIT_NOT_ALL_SHOWN;
+    return output.finish() && ok ? EXIT_ALL_DONE : EXIT_NOT_ALL_DONE;
 }
 
 int run(const QStringList& arguments)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QCoreApplication::translate("xddinfo", "Shows what is in CANopen device descriptions (ISO 15745 XML, xdd)."));
-    const QCommandLineOption help(
-        {QStringLiteral("h"), QStringLiteral("help")}, QCoreApplication::translate("xddinfo", "Print this help."));
-    const QCommandLineOption version(
-        {QStringLiteral("v"), QStringLiteral("version")}, QCoreApplication::translate("xddinfo", "Print the version."));
-    const QCommandLineOption json(
-        QStringLiteral("json"),
-        QCoreApplication::translate("xddinfo", "Print the whole model as JSON, one line for each file."));
-    const QCommandLineOption object(
-        QStringLiteral("object"),
-        QCoreApplication::translate("xddinfo", "Show one object in full; the index is hexadecimal, such as 0x1018."),
-        QCoreApplication::translate("xddinfo", "index"));
-    const QCommandLineOption normalize(
-        QStringLiteral("normalize"),
+    CCommandLine line(
+        QCoreApplication::translate("xddinfo", "Shows what is in CANopen device descriptions (ISO 15745 XML, xdd)."),
         QCoreApplication::translate(
-            "xddinfo", "Normalize a foreign description before it is read (see xddnormalize)."));
-    parser.addOptions({help, version, json, object, normalize});
-    parser.addPositionalArgument(
-        QStringLiteral("FILE"),
-        QCoreApplication::translate("xddinfo", "A description. Without one the embedded sample is shown."),
+            "xddinfo", "A description; - is standard input. Without one the embedded sample is shown."),
         QStringLiteral("[FILE...]"));
-
-    if (!parser.parse(arguments)) {
-        return refuse(parser.errorText());
+    const auto json = line.add(
+        {QStringLiteral("json")},
+        QCoreApplication::translate("xddinfo", "Print the whole model as JSON, one line for each file."));
+    const auto object = line.add(
+        {QStringLiteral("object")},
+        QCoreApplication::translate(
+            "xddinfo", "Show objects in full, in hexadecimal: 0x1018, 1018h, 0x1018:1, 0x1018sub1 or 0x1800-0x1803. "
+                       "May be given several times."),
+        QCoreApplication::translate("xddinfo", "index"));
+    const auto strict = line.add(
+        {QStringLiteral("strict")},
+        QCoreApplication::translate(
+            "xddinfo", "Read the files exactly as the library does, not as xddnormalize would write them."));
+    if (const std::optional<int> status = line.parse(arguments)) {
+        return *status;
     }
-    if (parser.isSet(help)) {
-        return print(parser.helpText().trimmed());
-    }
-    if (parser.isSet(version)) {
-        return print(QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion());
-    }
-
     SRequest request;
-    request.fileNames = parser.positionalArguments();
-    request.sample = request.fileNames.isEmpty();
-    if (request.sample) {
+    request.fileNames = line.files();
+    request.isSample = request.fileNames.isEmpty();
+    if (request.isSample) {
         request.fileNames << embeddedSample();
     }
-    request.json = parser.isSet(json);
-    request.normalize = parser.isSet(normalize);
-    request.oneObject = parser.isSet(object);
-    if (request.oneObject) {
-        bool ok = false;
-        request.objectIndex = parser.value(object).toUInt(&ok, 16);
-        if (!ok) {
-            return refuse(QCoreApplication::translate("xddinfo", "'%1' is not an index.").arg(parser.value(object)));
+    request.json = line.isSet(json);
+    request.strict = line.isSet(strict);
+    for (const QString& text : line.values(object)) {
+        for (const QString& part : text.split(QLatin1Char(','))) {
+            const std::optional<SObjectSelection> selection = objectSelection(part);
+            if (!selection) {
+                return CCommandLine::refuse(QCoreApplication::translate("xddinfo", "'%1' is not an index.").arg(part));
+            }
+            request.selections << *selection;
         }
     }
     return showAll(request);
@@ -189,11 +215,5 @@ int run(const QStringList& arguments)
 
 int main(int argc, char* argv[])
 {
-    // A reader that closes the pipe early ends the output with an error, not the program with a signal.
-    std::signal(SIGPIPE, SIG_IGN);
-    const QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("xddinfo"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(TOOL_VERSION));
-    installCatalogue();
-    return run(QCoreApplication::arguments());
+    return runTool(argc, argv, QStringLiteral("xddinfo"), run);
 }

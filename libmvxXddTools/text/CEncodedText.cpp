@@ -1,8 +1,9 @@
-#include "CEncodedText.h"
+#include "text/CEncodedText.h"
+
+#include "text/Encodings.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>
-#include <QTextCodec>
 
 namespace
 {
@@ -48,17 +49,16 @@ bool CEncodedText::decode(const QByteArray& bytes, QString& errorText)
     if (encoding.isEmpty()) {
         encoding = "UTF-8";
     }
-    mCodec = QTextCodec::codecForName(encoding);
-    if (mCodec == nullptr) {
-        errorText = QCoreApplication::translate("xddnormalize", "The encoding \"%1\" is not known.")
+    mEncoding = encodingName(encoding);
+    if (mEncoding.isEmpty()) {
+        errorText = QCoreApplication::translate("mvxXddTools", "The encoding \"%1\" is not known.")
                         .arg(QString::fromLatin1(encoding));
         return false;
     }
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    mText = mCodec->toUnicode(bytes.constData() + mByteOrderMark.size(), bytes.size() - mByteOrderMark.size(), &state);
+    mText = decoded(bytes.mid(mByteOrderMark.size()), mEncoding);
     if (encode(mText) != bytes) {
-        errorText = QCoreApplication::translate("xddnormalize", "The text is not valid %1.")
-                        .arg(QString::fromLatin1(mCodec->name()));
+        errorText =
+            QCoreApplication::translate("mvxXddTools", "The text is not valid %1.").arg(QString::fromLatin1(mEncoding));
         return false;
     }
     return true;
@@ -66,8 +66,7 @@ bool CEncodedText::decode(const QByteArray& bytes, QString& errorText)
 
 QByteArray CEncodedText::encode(const QString& text) const
 {
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    return mByteOrderMark + mCodec->fromUnicode(text.constData(), text.size(), &state);
+    return mByteOrderMark + encoded(text, mEncoding);
 }
 
 const QString& CEncodedText::text() const

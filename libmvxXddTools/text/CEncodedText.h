@@ -1,10 +1,8 @@
-#ifndef XDDNORMALIZE_CENCODEDTEXT_H
-#define XDDNORMALIZE_CENCODEDTEXT_H
+#ifndef MVXXDDTOOLS_CENCODEDTEXT_H
+#define MVXXDDTOOLS_CENCODEDTEXT_H
 
 #include <QByteArray>
 #include <QString>
-
-class QTextCodec;
 
 /** The characters of an XML file, together with what is needed to get its bytes back. */
 class CEncodedText
@@ -24,7 +22,7 @@ public:
     const QString& text() const;
 
 private:
-    const QTextCodec* mCodec = nullptr; // Qt owns it
+    QByteArray mEncoding;
     QByteArray mByteOrderMark;
     QString mText;
 };

@@ -1,0 +1,3 @@
+#include "CXddChange.h"
+
+CXddChange::CXddChange() = default;

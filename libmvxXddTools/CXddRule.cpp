@@ -1,0 +1,3 @@
+#include "CXddRule.h"
+
+CXddRule::CXddRule() = default;

@@ -1,0 +1,55 @@
+#ifndef TOOLS_CCOMMANDLINE_H
+#define TOOLS_CCOMMANDLINE_H
+
+#include <QCommandLineParser>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/** How every tool ends. */
+enum EExitStatus : int
+{
+    EXIT_ALL_DONE = 0,
+    EXIT_NOT_ALL_DONE = 1, ///< Something could not be read, done or written
+    EXIT_USAGE = 2         ///< The command line was not understood
+};
+
+/** The name under which a file stands for standard input and output. */
+const QString& standardStream();
+
+/** The command line of a tool: what it takes, and what all tools do with it. */
+class CCommandLine
+{
+public:
+    /** @p files says what the arguments are, @p filesSyntax how they are written, such as "FILE...". */
+    CCommandLine(const QString& description, const QString& files, const QString& filesSyntax);
+
+    /** Adds an option; one with @p valueName takes a value. */
+    QCommandLineOption add(const QStringList& names, const QString& description, const QString& valueName = QString());
+
+    /** Understands the arguments of the program. Returns the status to end with when there is nothing more to do: help
+     * or the version were asked for, or the line was refused. */
+    std::optional<int> parse(const QStringList& arguments);
+
+    bool isSet(const QCommandLineOption& option) const;
+    QString value(const QCommandLineOption& option) const;
+    QStringList values(const QCommandLineOption& option) const;
+    QStringList files() const;
+
+    /** Says why the command line is refused, and returns the status for that. */
+    static int refuse(const QString& reason);
+
+private:
+    QCommandLineParser mParser;
+    QCommandLineOption mHelp;
+    QCommandLineOption mVersion;
+};
+
+/** Writes the only result of a tool, followed by a line end, to standard output. Returns the status to end with. */
+int print(const QString& text);
+
+/** Runs a tool: its name and version, the language of the user, and pipes that are closed early. */
+int runTool(int argc, char* argv[], const QString& name, int (*run)(const QStringList& arguments));
+
+#endif
