@@ -28,7 +28,8 @@ CXmlElement objectListOf(const CXmlElement& body)
 } // namespace
 
 CDescription::CDescription(const CXmlText& text)
-    : mRoot(text.root())
+    : mText(text)
+    , mRoot(text.root())
 {
     for (const CXmlElement& element : text.all()) {
         const QString id = element.attribute(ATTR_UNIQUE_ID);
@@ -84,6 +85,28 @@ bool CDescription::isCanOpen(QString& errorText) const
     return stated;
 }
 
+std::vector<CXmlElement> CDescription::bodiesOfType(QLatin1String type) const
+{
+    std::vector<CXmlElement> bodies;
+    for (const CXmlElement& profile : mRoot.children(TAG_PROFILE)) {
+        const CXmlElement body = profile.child(TAG_PROFILE_BODY);
+        if (body.attribute(ATTR_TYPE).section(QLatin1Char(':'), -1) == type) {
+            bodies.push_back(body);
+        }
+    }
+    return bodies;
+}
+
+bool CDescription::hasTypedBody(QString& errorText) const
+{
+    if (!bodiesOfType(VAL_DEVICE_BODY).empty() || !bodiesOfType(VAL_NETWORK_BODY).empty()) {
+        return true;
+    }
+    errorText = QCoreApplication::translate("mvxXddTools", "No ProfileBody is of the type %1 or %2.")
+                    .arg(VAL_DEVICE_BODY, VAL_NETWORK_BODY);
+    return false;
+}
+
 const std::vector<SProfile>& CDescription::profiles() const
 {
     return mProfiles;
@@ -127,6 +150,11 @@ std::vector<CXmlElement> CDescription::bitRates() const
 const std::vector<SEntry>& CDescription::entries() const
 {
     return mEntries;
+}
+
+std::vector<CXmlElement> CDescription::elements() const
+{
+    return mText.all();
 }
 
 CXmlElement CDescription::byUniqueId(const QString& id) const

@@ -52,6 +52,11 @@ public:
      */
     bool isCanOpen(QString& errorText) const;
 
+    /** The bodies whose "xsi:type" is that, whatever its prefix. */
+    std::vector<CXmlElement> bodiesOfType(QLatin1String type) const;
+    /** True when there is a body of one of the two types of CANopen; otherwise false, with the reason. */
+    bool hasTypedBody(QString& errorText) const;
+
     /** Every profile with a header and a body, in document order. */
     const std::vector<SProfile>& profiles() const;
     /** The bodies of the profiles of a kind. */
@@ -64,12 +69,16 @@ public:
     /** Every object of the lists, each followed by its sub-objects. */
     const std::vector<SEntry>& entries() const;
 
+    /** Every element of the text in document order. */
+    std::vector<CXmlElement> elements() const;
+
     /** The first element with that "uniqueID". */
     CXmlElement byUniqueId(const QString& id) const;
     /** The parameter that an element refers to. */
     CParameter parameterOf(const CXmlElement& element) const;
 
 private:
+    const CXmlText& mText;
     CXmlElement mRoot;
     QHash<QString, CXmlElement> mByUniqueId;
     std::vector<SProfile> mProfiles;

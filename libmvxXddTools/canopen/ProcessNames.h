@@ -31,6 +31,8 @@ const QLatin1String ATTR_GRANULARITY("granularity");
 const QLatin1String ATTR_NR_OF_RX_PDO("nrOfRxPDO");
 const QLatin1String ATTR_NR_OF_TX_PDO("nrOfTxPDO");
 
+const QLatin1String VAL_DEVICE_BODY("ProfileBody_Device_CANopen");
+const QLatin1String VAL_NETWORK_BODY("ProfileBody_CommunicationNetwork_CANopen");
 const QLatin1String VAL_NO_ACCESS("noAccess");
 } // namespace NProcessNames
 

@@ -21,11 +21,16 @@ void COutput::writeLine(const QString& line)
     write(line.toUtf8() + '\n');
 }
 
-bool COutput::finish()
+void COutput::flush()
 {
     if (!failed()) {
         check(std::fflush(stdout) == 0);
     }
+}
+
+bool COutput::finish()
+{
+    flush();
     if (mError == 0 || mError == EPIPE) {
         return true;
     }

@@ -14,6 +14,9 @@ public:
     /** Writes a text and a line end in UTF-8. */
     void writeLine(const QString& line = QString());
 
+    /** Writes out what is buffered, so that it stands in front of messages that follow. */
+    void flush();
+
     /** Writes out what is buffered, and says what went wrong. To be called once at the end. Returns true when all was
      * written, or when the reader of a pipe has had enough and closed it. */
     bool finish();

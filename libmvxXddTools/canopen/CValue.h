@@ -1,0 +1,94 @@
+#ifndef MVXXDDTOOLS_CVALUE_H
+#define MVXXDDTOOLS_CVALUE_H
+
+#include <QString>
+
+#include <optional>
+
+/** A whole number from -2^64 to 2^64, exact: no machine type holds all values of the 64-bit types of CiA 301. */
+class CInteger
+{
+public:
+    CInteger() = default;
+    CInteger(bool isNegative, quint64 magnitude);
+
+    bool isNegative() const;
+    quint64 magnitude() const;
+
+    /** The sum with a small positive number; a sum beyond the range is the highest value. */
+    CInteger plus(unsigned int number) const;
+
+    /** As a signed decimal number. */
+    QString text() const;
+
+    bool operator<(const CInteger& other) const;
+    bool operator==(const CInteger& other) const;
+    bool operator!=(const CInteger& other) const;
+
+private:
+    bool mIsNegative = false;
+    quint64 mMagnitude = 0;
+};
+
+/** The node-IDs of a CANopen network. */
+constexpr unsigned int MIN_NODE_ID = 1;
+constexpr unsigned int MAX_NODE_ID = 127;
+
+/**
+ * The value of a text of a description, as the data type of its entry makes it: a default or actual value, or a limit.
+ *
+ * A whole number may depend on the node-ID of the device ("$NODEID+0x180") and then stands for one number for each.
+ */
+class CValue
+{
+public:
+    /** Reads a text that is not empty; nothing when it is no value of the type. A number that is out of the range of
+     * its type is a value. */
+    static std::optional<CValue> read(const QString& text, unsigned int dataType);
+
+    /** True for a whole number, a boolean included. */
+    bool isInteger() const;
+    /** True for a whole number or a real number, which have an order. */
+    bool isNumber() const;
+    /** True when the value depends on the node-ID. */
+    bool usesNodeId() const;
+    /** True for "N+$NODEID", the other way round than the standard writes it. */
+    bool isNodeIdLast() const;
+
+    /** The whole number with a node-ID of 0; the number itself for one that does not depend on it. */
+    CInteger base() const;
+    /** The whole number for a node-ID. */
+    CInteger at(unsigned int nodeId) const;
+    /** The whole number as 64 bits, a negative one as two's complement. */
+    quint64 bits() const;
+
+    /** True when the value lies in the range of its type for every node-ID. */
+    bool fits(unsigned int dataType) const;
+
+    /** True when the value is below another one of the same type, for some node-ID. */
+    bool isBelow(const CValue& other) const;
+    /** True for two texts of the same value. */
+    bool operator==(const CValue& other) const;
+
+private:
+    enum class EKind
+    {
+        Integer,
+        Real,
+        Text
+    };
+
+    EKind mKind = EKind::Text;
+    CInteger mInteger;
+    bool mUsesNodeId = false;
+    bool mIsNodeIdLast = false;
+    double mReal = 0;
+    bool mIsPattern = false; // A real number written as its bits, which is not looked at
+    QString mText;
+};
+
+/** A whole number in the writings of a description without a data type, such as a vendor ID: decimal, or hexadecimal
+ * with "0x". */
+std::optional<CInteger> readInteger(const QString& text);
+
+#endif
