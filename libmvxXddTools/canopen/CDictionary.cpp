@@ -58,7 +58,9 @@ SDictionaryEntry entryOf(const SEntry& entry)
     result.element = entry.element;
     result.parameter = entry.parameter;
     result.isSubObject = entry.element.is(TAG_CAN_OPEN_SUB_OBJECT);
-    result.objectType = CXmlValue::toNumber(entry.element.attribute(ATTR_OBJECT_TYPE), DECIMAL, UCHAR_MAX).value_or(0);
+    const QString objectType = entry.element.attribute(ATTR_OBJECT_TYPE);
+    const bool hasPrefix = objectType.trimmed().startsWith(QLatin1String("0x"), Qt::CaseInsensitive);
+    result.objectType = CXmlValue::toNumber(objectType, hasPrefix ? HEXADECIMAL : DECIMAL, UCHAR_MAX).value_or(0);
     const QString ownType = entry.element.attribute(ATTR_DATA_TYPE);
     result.ownsDataType = !ownType.isEmpty();
     result.dataType =

@@ -9,9 +9,6 @@
 
 namespace
 {
-// A group with more lines than this is summed up in one.
-constexpr int MAX_ALIKE = 10;
-
 bool drivesTerminal(QChar character)
 {
     switch (character.category()) {
@@ -83,7 +80,7 @@ void reportLine(const QString& text)
     std::fprintf(stderr, "%s\n", qUtf8Printable(printable(text)));
 }
 
-QVector<SReportLine> summedUp(const QVector<SReportLine>& lines)
+QVector<SReportLine> summedUp(const QVector<SReportLine>& lines, int most)
 {
     QHash<QString, QVector<int>> linesOf;
     for (const SReportLine& line : lines) {
@@ -93,7 +90,7 @@ QVector<SReportLine> summedUp(const QVector<SReportLine>& lines)
     QVector<SReportLine> summary;
     for (SReportLine line : lines) {
         const QVector<int>& alike = linesOf[line.group];
-        if (alike.size() > MAX_ALIKE) {
+        if (alike.size() > most) {
             if (isSummedUp.value(line.group)) {
                 continue;
             }

@@ -32,9 +32,9 @@ struct SReportLine
     QString ending; ///< What stands behind the text, also when it is summed up
 };
 
-/** The lines of a report, with more than ten of one group summed up in the first of them: "and 12 more like this up to
- * line 99". */
-QVector<SReportLine> summedUp(const QVector<SReportLine>& lines);
+/** The lines of a report, with more than @p most of one group summed up in the first of them: "and 12 more like this up
+ * to line 99". */
+QVector<SReportLine> summedUp(const QVector<SReportLine>& lines, int most = 10);
 
 /** "FILE:LINE: " */
 QString place(const QString& fileName, int line);

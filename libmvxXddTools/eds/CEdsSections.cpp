@@ -1,0 +1,36 @@
+#include "eds/CEdsSections.h"
+
+namespace
+{
+// Longest line of a file, in characters.
+constexpr int MAX_LINE = 255;
+
+const QLatin1String NEWLINE("\r\n");
+} // namespace
+
+void CEdsSections::begin(const QString& name)
+{
+    if (!mText.isEmpty()) {
+        mText += NEWLINE;
+    }
+    mText += QLatin1Char('[') + name + QLatin1Char(']') + NEWLINE;
+}
+
+void CEdsSections::key(const QString& name, const QString& value)
+{
+    if (!value.isEmpty()) {
+        mText += name + QLatin1Char('=') + value + NEWLINE;
+    }
+}
+
+SEdsText CEdsSections::text(const QString& name, const QString& value)
+{
+    const SEdsText text = edsText(value, MAX_LINE - int(name.size()) - 1);
+    key(name, text.text);
+    return text;
+}
+
+QByteArray CEdsSections::bytes() const
+{
+    return mText.toUtf8();
+}
