@@ -87,7 +87,7 @@ CEdsDocument::CEdsDocument(const CDescription& description, const CDictionary& d
 {
     chooseObjects();
     fileInfo(stated);
-    deviceInfo();
+    deviceInfo(stated);
     dummyUsage();
     mSections.begin(latin1("Comments"));
     mSections.key(latin1("Lines"), latin1("0"));
@@ -190,7 +190,7 @@ void CEdsDocument::fileInfo(const CXddStated& stated)
     plainText(latin1("ModifiedBy"), body, body.attribute(ATTR_FILE_MODIFIED_BY));
 }
 
-void CEdsDocument::deviceInfo()
+void CEdsDocument::deviceInfo(const CXddStated& stated)
 {
     const CXmlElement identity = mDeviceBody.child(TAG_DEVICE_IDENTITY);
     const SDictionaryEntry* const revision = mDictionary.subObject(0x1018, 3);
@@ -206,7 +206,9 @@ void CEdsDocument::deviceInfo()
     mSections.key(latin1("ProductNumber"), identityNumber(TAG_PRODUCT_ID, 2));
     mSections.key(latin1("RevisionNumber"), number ? edsNumber(number->magnitude()) : QString());
     text("OrderCode", TAG_ORDER_NUMBER);
-    bitRates();
+    if (stated.mSupportedBaudRates) {
+        bitRates();
+    }
     features();
 }
 
@@ -355,8 +357,7 @@ void CEdsDocument::variable(const SDictionaryEntry& entry, unsigned int arrayTyp
     }
     value(entry, latin1("DefaultValue"), entry.defaultValue, type);
     if (!isBlock) {
-        value(entry, latin1("LowLimit"), entry.lowLimit, type);
-        value(entry, latin1("HighLimit"), entry.highLimit, type);
+        limits(entry, type);
     }
     objFlags(entry);
     if (entry.actualValue.isGiven() || !entry.element.attribute(ATTR_DENOTATION).isEmpty()) {
@@ -421,6 +422,22 @@ void CEdsDocument::value(const SDictionaryEntry& entry, const QString& key, cons
         mReport.add(
             entry, "suffix", CEdsReport::tr("%1 \"%2\" is written without its suffix").arg(key, stated.text.left(100)));
     }
+}
+
+// A reader refuses a whole file for one lower limit above the higher one.
+void CEdsDocument::limits(const SDictionaryEntry& entry, unsigned int type)
+{
+    const auto read = [type](const SStated& stated) {
+        return stated.isGiven() ? CValue::read(stated.text, type) : std::nullopt;
+    };
+    const std::optional<CValue> low = read(entry.lowLimit);
+    const std::optional<CValue> high = read(entry.highLimit);
+    if (low && high && low->isNumber() && high->isNumber() && high->isBelow(*low)) {
+        mReport.add(entry, "limits", CEdsReport::tr("limits are left out, the low one is above the high one"));
+        return;
+    }
+    value(entry, latin1("LowLimit"), entry.lowLimit, type);
+    value(entry, latin1("HighLimit"), entry.highLimit, type);
 }
 
 void CEdsDocument::objFlags(const SDictionaryEntry& entry)

@@ -31,7 +31,7 @@ private:
     bool isSayable(const SDictionaryEntry& object);
 
     void fileInfo(const CXddStated& stated);
-    void deviceInfo();
+    void deviceInfo(const CXddStated& stated);
     void bitRates();
     void features();
     void dummyUsage();
@@ -44,6 +44,7 @@ private:
     void dataType(const SDictionaryEntry& entry, unsigned int type);
     void access(const SDictionaryEntry& entry);
     void value(const SDictionaryEntry& entry, const QString& key, const SStated& stated, unsigned int type);
+    void limits(const SDictionaryEntry& entry, unsigned int type);
     void objFlags(const SDictionaryEntry& entry);
     void plainText(const QString& key, const CXmlElement& element, const QString& text);
     void reportText(const SEdsText& text, const CXmlElement& element, const SDictionaryEntry* entry);

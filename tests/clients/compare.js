@@ -1,0 +1,133 @@
+// Loads EDS files with another stack and compares what it reads with the description that they were made from.
+// Usage: node compare.js STACK TOOLS FILE..., where STACK is the folder with the installed packages and TOOLS the one
+// with the programs. What differs has to be in the report of xdd2eds.
+'use strict';
+
+const { spawnSync } = require('child_process');
+const fs = require('fs');
+const os = require('os');
+const path = require('path');
+
+const [stack, tools, ...files] = process.argv.slice(2);
+const { Eds } = require(path.resolve(stack, 'node_modules/canopen/source/eds'));
+
+const ARRAY = 8;
+const DOMAIN = 2;
+const DOMAIN_TYPE = 15;
+const TEXT_TYPES = [9, 10, 11, 12, 13, 15];
+const SIGNED_BITS = { 2: 8, 3: 16, 4: 32, 16: 24, 18: 40, 19: 48, 20: 56, 21: 64 };
+
+function run(program, ...args) {
+    const result = spawnSync(path.resolve(tools, program), args, { encoding: 'utf-8', maxBuffer: 1 << 28 });
+    if (result.status !== 0) {
+        throw new Error(`${program} ${args.join(' ')}: ${result.stderr}`);
+    }
+    return result;
+}
+
+// A value as both sides should understand it, whatever its writing.
+function meaning(text, type) {
+    const plain = (text ?? '').trim();
+    if (plain === '' || TEXT_TYPES.includes(type)) {
+        return plain.replace(/\s/g, '');
+    }
+    if (type === 1) {
+        return plain.replace('true', '1').replace('false', '0').replace(/^0x0*(?=.)/, '');
+    }
+    if (type === 8 || type === 17) {
+        return String(Number(plain));
+    }
+    const node = /\$NODEID/i.test(plain);
+    const number = plain.replace(/\s/g, '').replace(/\+?\$NODEID\+?/i, '') || '0';
+    const negative = number.startsWith('-');
+    const digits = number.replace(/^[+-]/, '');
+    let value = BigInt(/^0x/i.test(digits) ? digits : digits.replace(/^0+(?=.)/, ''));
+    const bits = SIGNED_BITS[type];
+    if (bits && /^0x/i.test(digits)) {
+        value = BigInt.asIntN(bits, value);
+    }
+    return `${node ? 'NODEID+' : ''}${negative ? -value : value}`;
+}
+
+function accessOf(entry) {
+    if (entry.accessType === 'rw' && entry.PDOmapping === 'TPDO') {
+        return 'rwr';
+    }
+    return entry.accessType === 'rw' && entry.PDOmapping === 'RPDO' ? 'rww' : entry.accessType;
+}
+
+// What the stack should hold for a variable.
+function expected(entry, array) {
+    const type = entry.dataType || array || DOMAIN_TYPE;
+    const limit = (text) => {
+        const value = meaning(text, type);
+        return value === '' || Number(value) === 0 ? undefined : parseInt(value); // It takes 0 for no limit
+    };
+    return {
+        name: entry.name,
+        type,
+        access: accessOf(entry),
+        value: meaning(entry.defaultValue, type),
+        mapping: entry.objectType === DOMAIN ? undefined : (entry.PDOmapping ?? 'no') === 'no' ? '0' : '1',
+        low: limit(entry.lowLimit),
+        high: limit(entry.highLimit),
+    };
+}
+
+function found(object) {
+    return {
+        name: object.parameterName,
+        type: object.dataType,
+        access: object.accessType,
+        value: meaning(object.defaultValue, object.dataType),
+        mapping: object.pdoMapping === false ? '0' : object.pdoMapping,
+        low: object.lowLimit,
+        high: object.highLimit,
+    };
+}
+
+function hex(number, digits) {
+    return '0x' + number.toString(16).toUpperCase().padStart(digits, '0');
+}
+
+let failed = false;
+let compared = 0;
+const folder = fs.mkdtempSync(path.join(os.tmpdir(), 'eds-'));
+for (const file of files) {
+    const edsFile = path.join(folder, 'file.eds');
+    const report = run('xdd2eds', '--verbose', '-o', edsFile, file).stderr;
+    const model = JSON.parse(run('xddinfo', '--json', file).stdout);
+    const eds = Eds.fromFile(edsFile);
+    let equal = 0;
+    let told = 0;
+    const compare = (name, wanted, got) => {
+        const differences = Object.keys(wanted).filter((key) => wanted[key] !== got?.[key]);
+        compared += 1;
+        if (differences.length === 0) {
+            equal += 1;
+        } else if (report.includes(` ${name}: `)) {
+            told += 1;
+        } else {
+            failed = true;
+            differences.forEach((key) => console.error(`${file}: ${name}: ${key} ${got?.[key]} instead of ${wanted[key]}`));
+        }
+    };
+    for (const object of model.networkProfile.objects) {
+        const name = hex(object.index, 4);
+        const loaded = eds.getEntry(object.index);
+        if (object.objectType === 8 || object.objectType === 9) {
+            const array = object.objectType === ARRAY ? object.dataType : 0;
+            compare(name, { name: object.name, type: undefined }, loaded && { name: loaded.parameterName, type: loaded.dataType });
+            for (const entry of object.subObjects) {
+                const sub = loaded?.at(entry.subIndex);
+                compare(`${name} sub-index ${entry.subIndex}`, expected(entry, array), sub && found(sub));
+            }
+        } else {
+            compare(name, expected(object, 0), loaded && found(loaded));
+        }
+    }
+    console.log(`${path.basename(file)}: ${equal} entries equal, ${told} as the report says`);
+}
+fs.rmSync(folder, { recursive: true });
+console.log(`${compared} entries compared`);
+process.exit(failed || compared === 0 ? 1 : 0);
