@@ -2,40 +2,30 @@
 # any prefix and after the whole folder has been moved. The components are the Debian packages of Packages.cmake.
 include(CMakePackageConfigHelpers)
 
-# Compresses a file of the sources into the top of the build folder, the same bytes every time.
-find_program(GZIP gzip REQUIRED)
-function(mvx_compressed source)
-    cmake_path(GET source FILENAME name)
-    execute_process(
-        COMMAND ${GZIP} -9nc ${PROJECT_SOURCE_DIR}/${source}
-        OUTPUT_FILE ${PROJECT_BINARY_DIR}/${name}.gz
-        COMMAND_ERROR_IS_FATAL ANY)
-    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${source})
-endfunction()
+set(mvx_package mvxIso15745Xml${MVX_SUFFIX})
+set(mvx_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${mvx_package})
 
-set(mvx_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/mvxIso15745Xml)
-
-foreach(target mvxIso15745Xml mvxXml)
+foreach(target mvxIso15745Xml mvxXddTools mvxXml)
     install(TARGETS ${target} EXPORT mvxIso15745XmlTargets
         LIBRARY
             DESTINATION ${CMAKE_INSTALL_LIBDIR}
             COMPONENT runtime
             NAMELINK_COMPONENT dev
         FILE_SET HEADERS
-            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${target}
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${target}${MVX_SUFFIX}
             COMPONENT dev)
 endforeach()
 
-configure_package_config_file(cmake/mvxIso15745XmlConfig.cmake.in ${PROJECT_BINARY_DIR}/mvxIso15745XmlConfig.cmake
+configure_package_config_file(cmake/mvxIso15745XmlConfig.cmake.in ${PROJECT_BINARY_DIR}/${mvx_package}Config.cmake
     INSTALL_DESTINATION ${mvx_cmake_dir})
 # As long as the major version is 0, every minor version may break programs.
-write_basic_package_version_file(${PROJECT_BINARY_DIR}/mvxIso15745XmlConfigVersion.cmake
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/${mvx_package}ConfigVersion.cmake
     COMPATIBILITY SameMinorVersion)
 install(EXPORT mvxIso15745XmlTargets NAMESPACE mvx:: DESTINATION ${mvx_cmake_dir} COMPONENT dev)
 install(
     FILES
-        ${PROJECT_BINARY_DIR}/mvxIso15745XmlConfig.cmake
-        ${PROJECT_BINARY_DIR}/mvxIso15745XmlConfigVersion.cmake
+        ${PROJECT_BINARY_DIR}/${mvx_package}Config.cmake
+        ${PROJECT_BINARY_DIR}/${mvx_package}ConfigVersion.cmake
     DESTINATION ${mvx_cmake_dir}
     COMPONENT dev)
 # The same package from the build tree, with mvxIso15745Xml_DIR set to it.
@@ -44,30 +34,37 @@ export(EXPORT mvxIso15745XmlTargets NAMESPACE mvx:: FILE ${PROJECT_BINARY_DIR}/m
 # pkg-config finds the prefix from where its file lies.
 file(RELATIVE_PATH MVX_PC_PREFIX
     ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
-foreach(name mvxIso15745Xml mvxXml)
-    configure_file(cmake/${name}.pc.in ${PROJECT_BINARY_DIR}/${name}.pc @ONLY)
-    install(FILES ${PROJECT_BINARY_DIR}/${name}.pc
+foreach(name mvxIso15745Xml mvxXddTools mvxXml)
+    configure_file(cmake/${name}.pc.in ${PROJECT_BINARY_DIR}/${name}${MVX_SUFFIX}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${name}${MVX_SUFFIX}.pc
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
         COMPONENT dev)
 endforeach()
 
-if(MVX_BUILD_TOOLS)
-    install(TARGETS xddinfo xddnormalize
+# Where Qt programs look for the catalogues of libraries.
+if(MVX_CATALOGUES)
+    install(FILES ${MVX_CATALOGUES}
+        DESTINATION ${MVX_CATALOGUE_DIR}
+        COMPONENT runtime)
+endif()
+
+# The tools have the same names in both builds, so only that for Qt 5 installs them.
+set(MVX_TOOLS xdd2eds xddcheck xddinfo xddnormalize)
+if(MVX_BUILD_TOOLS AND MVX_QT_MAJOR EQUAL 5)
+    install(TARGETS ${MVX_TOOLS}
         RUNTIME
             DESTINATION ${CMAKE_INSTALL_BINDIR}
             COMPONENT tools)
-    mvx_compressed(docs/man/xddinfo.1)
-    mvx_compressed(docs/man/xddnormalize.1)
-    install(FILES ${PROJECT_BINARY_DIR}/xddinfo.1.gz ${PROJECT_BINARY_DIR}/xddnormalize.1.gz
-        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
-        COMPONENT tools)
-    install(FILES tools/completion/xddinfo tools/completion/xddnormalize
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
-        COMPONENT tools)
-    # Where Qt programs look for the catalogues of libraries.
-    install(FILES $<TARGET_PROPERTY:translations,CATALOGUES>
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/qt5/translations
-        COMPONENT runtime)
+    foreach(tool ${MVX_TOOLS})
+        install(FILES tools/completion/${tool}
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+            COMPONENT tools)
+        if(NOT MVX_DEBIAN_PACKAGES) # Packages compress their pages
+            install(FILES docs/man/${tool}.1
+                DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
+                COMPONENT tools)
+        endif()
+    endforeach()
 endif()
 
 if(MVX_BUILD_DOCS)

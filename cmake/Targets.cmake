@@ -17,7 +17,7 @@ function(mvx_target_defaults target)
         QT_NO_URL_CAST_FROM_STRING)
 endfunction()
 
-# A shared library of the project: hidden visibility, the so-name of the project, its public headers, and an alias in the
+# A shared library of the project: the name of the build for its Qt, hidden visibility, the so-name of the project, its public headers, and an alias in the
 # namespace under which an installed library is found. `<TARGET>_LIBRARY` tells its export header that it is being built.
 function(mvx_shared_library target)
     cmake_parse_arguments(ARG "" "HEADER_DIR" "HEADERS" ${ARGN})
@@ -27,6 +27,7 @@ function(mvx_shared_library target)
     mvx_target_defaults(${target})
     target_compile_definitions(${target} PRIVATE ${upper}_LIBRARY)
     set_target_properties(${target} PROPERTIES
+        OUTPUT_NAME ${target}${MVX_SUFFIX}
         VERSION ${PROJECT_VERSION}
         SOVERSION ${MVX_SOVERSION}
         CXX_VISIBILITY_PRESET hidden

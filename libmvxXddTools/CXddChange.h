@@ -18,8 +18,8 @@ public:
     /** False for a place that the library cannot read and that was left as it is, because it is ambiguous or unknown.
      */
     bool mChanged = true;
-    /** True where the change bears on what a reader of the description sees (types, access, values, rates, dates),
-     * false where it only supplies something empty or a default that the library demands. */
+    /** True where the file writes something in another way than the format does and a meaning was found for it, which
+     * a reader of the description may want to know; false for what the format itself supplies or leaves open. */
     bool mMatters = false;
 };
 

@@ -3,118 +3,170 @@
 #include <QTemporaryFile>
 #include <QtTest>
 
+namespace
+{
+// Lists the fields of records, each behind the path that leads to it.
+class CDump
+{
+public:
+    QStringList lines;
+
+    void add(const QString& path, const QString& value)
+    {
+        lines << path + QStringLiteral(" = ") + value;
+    }
+    void add(const QString& path, unsigned int value)
+    {
+        add(path, QString::number(value));
+    }
+    void add(const QString& path, bool value)
+    {
+        add(path, value ? QStringLiteral("true") : QStringLiteral("false"));
+    }
+    void add(const QString& path, const QDate& value)
+    {
+        add(path, value.toString(Qt::ISODate));
+    }
+    void add(const QString& path, const QTime& value)
+    {
+        add(path, value.toString(Qt::ISODateWithMs));
+    }
+    void add(const QString& path, CNetworkCanOpenProfile::EBaudrate value)
+    {
+        add(path, CNetworkCanOpenProfile::baudrateAsStr(value));
+    }
+    void add(const QString& path, const CGLabel& label)
+    {
+        add(path + QStringLiteral(".mType"), CGLabel::gLabelTypeAsStr(label.mType));
+        add(path + QStringLiteral(".mText"), label.mText);
+        add(path + QStringLiteral(".mLang"), label.mLang);
+        add(path + QStringLiteral(".mUri"), label.mUri);
+        add(path + QStringLiteral(".mRefText"), label.mRefText);
+        add(path + QStringLiteral(".mDictId"), label.mDictId);
+        add(path + QStringLiteral(".mTextId"), label.mTextId);
+    }
+    void add(const QString& path, const CWriteProtectString& text)
+    {
+        add(path + QStringLiteral(".mValue"), text.mValue);
+        add(path + QStringLiteral(".mReadOnly"), text.mReadOnly);
+    }
+    void add(const QString& path, const CWriteProtectGLabels& text)
+    {
+        addList<CGLabel>(path + QStringLiteral(".mLabels"), text.mLabels);
+        add(path + QStringLiteral(".mReadOnly"), text.mReadOnly);
+    }
+    void add(const QString& path, const CVersion& version)
+    {
+        add(path + QStringLiteral(".mVersionType"), CVersion::versionTypeAsStr(version.mVersionType));
+        add(path, static_cast<const CWriteProtectString&>(version));
+    }
+    template <typename Item> void addList(const QString& path, const QList<Item>& items)
+    {
+        add(path + QStringLiteral(".size"), unsigned(items.size()));
+        for (int i = 0; i < items.size(); ++i) {
+            add(path + QStringLiteral("[%1]").arg(i), items.at(i));
+        }
+    }
+    void add(const QString& path, const CProfileHeader& header)
+    {
+        add(path + QStringLiteral(".mProfileIdentification"), header.mProfileIdentification);
+        add(path + QStringLiteral(".mProfileRevision"), header.mProfileRevision);
+        add(path + QStringLiteral(".mProfileName"), header.mProfileName);
+        add(path + QStringLiteral(".mProfileSource"), header.mProfileSource);
+        add(path + QStringLiteral(".mProfileClassId"), CProfileHeader::classIdAsStr(header.mProfileClassId));
+        add(path + QStringLiteral(".mProfileDate"), header.mProfileDate);
+        add(path + QStringLiteral(".mAdditionalInformation"), header.mAdditionalInformation);
+        add(path + QStringLiteral(".mIso15745Part"), header.mIso15745Part);
+        add(path + QStringLiteral(".mIso15745Edition"), header.mIso15745Edition);
+        add(path + QStringLiteral(".mProfileTechnology"), header.mProfileTechnology);
+        add(path + QStringLiteral(".mIasInterfaceType"), CProfileHeader::iasIfTypAsStr(header.mIasInterfaceType));
+    }
+    template <typename Profile> void addCommonPart(const QString& path, const Profile& profile)
+    {
+        add(path + QStringLiteral(".mHeader"), profile.mHeader);
+        add(path + QStringLiteral(".mFileCreationDate"), profile.mFileCreationDate);
+        add(path + QStringLiteral(".mFileCreationTime"), profile.mFileCreationTime);
+        add(path + QStringLiteral(".mFileCreator"), profile.mFileCreator);
+        add(path + QStringLiteral(".mFileModificationDate"), profile.mFileModificationDate);
+        add(path + QStringLiteral(".mFileModificationTime"), profile.mFileModificationTime);
+        add(path + QStringLiteral(".mFileModifiedBy"), profile.mFileModifiedBy);
+        add(path + QStringLiteral(".mFileName"), profile.mFileName);
+        add(path + QStringLiteral(".mFileVersion"), profile.mFileVersion);
+        add(path + QStringLiteral(".mVendorId"), profile.mVendorId);
+        add(path + QStringLiteral(".mDeviceFamily"), profile.mDeviceFamily);
+        add(path + QStringLiteral(".mProductId"), profile.mProductId);
+        addList(path + QStringLiteral(".mVersions"), profile.mVersions);
+        add(path + QStringLiteral(".mBuildDate"), profile.mBuildDate);
+        add(path + QStringLiteral(".mSpecificationRevision"), profile.mSpecificationRevision);
+    }
+    void add(const QString& path, const CDeviceProfile& device)
+    {
+        addCommonPart(path, device);
+        add(path + QStringLiteral(".mVendorName"), device.mVendorName);
+        add(path + QStringLiteral(".mVendorText"), device.mVendorText);
+        add(path + QStringLiteral(".mProductFamily"), device.mProductFamily);
+        add(path + QStringLiteral(".mProductName"), device.mProductName);
+        add(path + QStringLiteral(".mProductText"), device.mProductText);
+        add(path + QStringLiteral(".mOrderNumber"), device.mOrderNumber);
+        add(path + QStringLiteral(".mInstanceName"), device.mInstanceName);
+        addList<CGLabel>(path + QStringLiteral(".mCategory"), device.mCategory);
+        const CCharacteristic& characteristic = device.mCharacteristic;
+        addList<CGLabel>(path + QStringLiteral(".mCharacteristicName"), characteristic.mCharacteristicName);
+        addList<CGLabel>(path + QStringLiteral(".mCharacteristicContent"), characteristic.mCharacteristicContent);
+    }
+    void add(const QString& path, const CCanOpenSubObject& entry)
+    {
+        add(path + QStringLiteral(".mIndex"), entry.mIndex);
+        add(path + QStringLiteral(".mName"), entry.mName);
+        add(path + QStringLiteral(".mObjectType"), unsigned(entry.mObjectType));
+        add(path + QStringLiteral(".mDataType"), unsigned(entry.mDataType));
+        add(path + QStringLiteral(".mLowLimit"), entry.mLowLimit);
+        add(path + QStringLiteral(".mHighLimit"), entry.mHighLimit);
+        add(path + QStringLiteral(".mAccessType"), CCanOpenSubObject::accessTypeAsStr(entry.mAccessType));
+        add(path + QStringLiteral(".mDefaultValue"), entry.mDefaultValue);
+        add(path + QStringLiteral(".mActualValue"), entry.mActualValue);
+        add(path + QStringLiteral(".mDenotation"), entry.mDenotation);
+        add(path + QStringLiteral(".mPdoMapping"), CCanOpenSubObject::pdoMappingAsStr(entry.mPdoMapping));
+        add(path + QStringLiteral(".mObjFlags"), entry.mObjFlags);
+        add(path + QStringLiteral(".mUniqueIdRef"), entry.mUniqueIdRef);
+        add(path + QStringLiteral(".mSubNumber"), unsigned(entry.mSubNumber));
+    }
+    void add(const QString& path, const CNetworkCanOpenProfile& network)
+    {
+        addCommonPart(path, network);
+        add(path + QStringLiteral(".mMandatoryObjects"), network.mMandatoryObjects);
+        add(path + QStringLiteral(".mOptionalObjects"), network.mOptionalObjects);
+        add(path + QStringLiteral(".mManufacturerObjects"), network.mManufacturerObjects);
+        add(path + QStringLiteral(".mBaudRate"), network.mBaudRate);
+        addList(path + QStringLiteral(".mSupportedBaudRates"), network.mSupportedBaudRates);
+        add(path + QStringLiteral(".mObjects.size"), unsigned(network.mObjects.size()));
+        for (auto object = network.mObjects.cbegin(); object != network.mObjects.cend(); ++object) {
+            const QString at = QStringLiteral("mObjects[0x%1]").arg(object.key(), 4, 16, QLatin1Char('0'));
+            add(at, static_cast<const CCanOpenSubObject&>(*object));
+            addList(at + QStringLiteral(".mSubObjects"), object->mSubObjects);
+        }
+    }
+};
+} // namespace
+
+QByteArray testData(const QString& name)
+{
+    QFile file(QStringLiteral(TEST_DATA "/") + name);
+    if (!file.open(QIODevice::ReadOnly)) {
+        qFatal("There is no file %s", qPrintable(file.fileName()));
+    }
+    return file.readAll();
+}
+
 QByteArray description()
 {
-    return R"(<?xml version="1.0" encoding="UTF-8"?>
-<ISO15745ProfileContainer xmlns="urn:profile">
-<ISO15745Profile>
-<ProfileHeader>
-<ProfileIdentification>device</ProfileIdentification>
-<ProfileRevision>2</ProfileRevision>
-<ProfileName/>
-<ProfileSource></ProfileSource>
-<ProfileClassID>Device</ProfileClassID>
-<ProfileDate>2010-02-03</ProfileDate>
-<AdditionalInformation>more</AdditionalInformation>
-<ISO15745Reference>
-<ISO15745Part>4</ISO15745Part>
-<ISO15745Edition>0x10</ISO15745Edition>
-<ProfileTechnology>any</ProfileTechnology>
-</ISO15745Reference>
-<IASInterfaceType>CMI</IASInterfaceType>
-</ProfileHeader>
-<ProfileBody fileName="d.xdd" fileCreator="me" fileCreationDate="2011-10-05" fileCreationTime="09:08:07" fileModificationDate="2012-01-02" fileModificationTime="10:11:12" fileModifiedBy="you" fileVersion="1.5">
-<DeviceIdentity>
-<vendorName readOnly="true">Vendor</vendorName>
-<vendorID readOnly="false">0x1</vendorID>
-<vendorText readOnly="false"><!-- no entry -->
-<label lang="en">text</label>
-<description lang="de" URI="http://u">Beschreibung</description>
-<labelRef dictID="d1" textID="t1">ref</labelRef>
-<descriptionRef dictID="d2" textID="t2"/></vendorText>
-<deviceFamily readOnly="true"><label lang="en" URI="ignored"></label></deviceFamily>
-<productFamily readOnly="true">family</productFamily>
-<productName readOnly="true">Product</productName>
-<productID readOnly="true">0x2</productID>
-<productText readOnly="true"><label lang="fr">texte</label></productText>
-<orderNumber readOnly="true">first</orderNumber>
-<orderNumber readOnly="true">second</orderNumber>
-<version versionType="SW" readOnly="true">1</version>
-<other/>
-<version versionType="sw">2</version>
-<buildDate>2013-04-05</buildDate>
-<specificationRevision readOnly="true">rev</specificationRevision>
-<instanceName readOnly="true">inst</instanceName>
-</DeviceIdentity>
-<DeviceFunction>
-<picturesList/>
-<capabilities>
-<characteristicsList>
-<category><label lang="en">cat</label></category>
-<characteristic>
-<characteristicName><label lang="en">name</label></characteristicName>
-<characteristicContent>
-<label lang="en">content</label>
-</characteristicContent>
-</characteristic>
-<characteristic/>
-</characteristicsList>
-</capabilities>
-</DeviceFunction>
-</ProfileBody>
-</ISO15745Profile>
-<Comment/>
-<ISO15745Profile>
-<ProfileHeader>
-<ProfileIdentification>network</ProfileIdentification>
-<ProfileRevision/>
-<ProfileName/>
-<ProfileSource/>
-<ProfileClassID>CommunicationNetwork</ProfileClassID>
-<ISO15745Reference>
-<ISO15745Part>1</ISO15745Part>
-<ISO15745Edition>1</ISO15745Edition>
-<ProfileTechnology>CANopen</ProfileTechnology>
-</ISO15745Reference>
-</ProfileHeader>
-<ProfileBody fileCreationDate="2011-10-06" fileCreator="net" fileName="n.xdd" fileVersion="2">
-<ApplicationLayers>
-<identity>
-<vendorID readOnly="true">0x3</vendorID>
-<deviceFamily readOnly="false"><label lang="en">fam</label></deviceFamily>
-<productID readOnly="true">0x4</productID>
-<version versionType="HW">3</version>
-<buildDate>2014-05-06Z</buildDate>
-<specificationRevision readOnly="false">spec</specificationRevision>
-</identity>
-<CANopenObjectList mandatoryObjects="3" optionalObjects="0x12" manufacturerObjects="20">
-<CANopenObject index="2000" name="last" objectType="7" dataType="0009" objFlags="1F"/>
-<CANopenObject index="1018" name="identity" objectType="9" subNumber="5">
-<CANopenSubObject subIndex="0A" name="a" objectType="7" dataType="0007" lowLimit="9" highLimit="1" accessType="rw" defaultValue="dv" actualValue="av" denotation="dn" PDOmapping="TPDO" objFlags="2" uniqueIDRef="UID_1" subNumber="9"/>
-<nothing><CANopenSubObject/></nothing>
-<CANopenSubObject subIndex="00" name="b" objectType="7" accessType="RO" PDOmapping="tpdo"/>
-</CANopenObject>
-</CANopenObjectList>
-</ApplicationLayers>
-<TransportLayers>
-<PhysicalLayer>
-<baudRate defaultValue="125 Kbps">
-<supportedBaudRate value="1000 Kbps"/>
-<supportedBaudRate value="auto-baudRate"/>
-<supportedBaudRate value="1000 Kbps"/>
-</baudRate>
-</PhysicalLayer>
-</TransportLayers>
-</ProfileBody>
-</ISO15745Profile>
-</ISO15745ProfileContainer>
-)";
+    return testData(QStringLiteral("load/description.xdd"));
 }
 
 QByteArray changed(const QByteArray& text, const QByteArray& before, const QByteArray& after)
 {
     if (text.count(before) != 1) {
-        qFatal("The description has %d times: %s", text.count(before), before.constData());
+        qFatal("The description has %d times: %s", int(text.count(before)), before.constData());
     }
     return QByteArray(text).replace(before, after);
 }
@@ -126,4 +178,28 @@ bool loadText(ICIso15745& reader, const QByteArray& text, QString& errorText)
         qFatal("No temporary file");
     }
     return reader.load(file.fileName(), errorText);
+}
+
+QStringList dump(ICIso15745& reader)
+{
+    CDump dump;
+    dump.add(QStringLiteral("device"), reader.deviceProfile());
+    dump.add(QStringLiteral("network"), reader.networkProfile());
+    return dump.lines;
+}
+
+QStringList differences(const QStringList& first, const QStringList& second)
+{
+    QStringList lines;
+    for (const QString& line : first) {
+        if (!second.contains(line)) {
+            lines << QLatin1Char('-') + line;
+        }
+    }
+    for (const QString& line : second) {
+        if (!first.contains(line)) {
+            lines << QLatin1Char('+') + line;
+        }
+    }
+    return lines;
 }

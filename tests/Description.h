@@ -5,8 +5,13 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
-/** The description that the tests change: small, valid, and with every element that the library reads. */
+/** The content of a file of the folder tests/data; fails the test when there is none. */
+QByteArray testData(const QString& name);
+
+/** The description that the tests of the library change: small, valid, and with every element that the library reads.
+ */
 QByteArray description();
 
 /** A copy of @p text in which @p before is replaced by @p after; fails the test when it occurs not exactly once. */
@@ -14,5 +19,11 @@ QByteArray changed(const QByteArray& text, const QByteArray& before, const QByte
 
 /** Loads @p text from a temporary file. */
 bool loadText(ICIso15745& reader, const QByteArray& text, QString& errorText);
+
+/** Every field of everything that a reader holds, one line each: "deviceProfile.mFileName = d.xdd". */
+QStringList dump(ICIso15745& reader);
+
+/** The lines that two lists do not have in common, with "-" in front of those of the first and "+" of the second. */
+QStringList differences(const QStringList& first, const QStringList& second);
 
 #endif

@@ -10,6 +10,8 @@ class TestRecords : public QObject
 private Q_SLOTS:
     void enumerationTexts_data();
     void enumerationTexts();
+    void enumerators();
+    void headerDefaults();
     void tablesAreCopies();
     void labelsAreValidByTheirFirstEntry();
     void deviceProfileDefaults();
@@ -98,6 +100,67 @@ void TestRecords::enumerationTexts()
     QCOMPARE(conversion.fromStr(text == text.toUpper() ? text.toLower() : text.toUpper()), invalid);
 }
 
+// The values by name: the lists above would not see an enumerator that has become another number.
+void TestRecords::enumerators()
+{
+    const QVector<int> numbered = {
+        CProfileHeader::CID_AIP,
+        CProfileHeader::CID_PROCESS,
+        CProfileHeader::CID_INFO_EXCHANGE,
+        CProfileHeader::CID_RESOURCE,
+        CProfileHeader::CID_DEVICE,
+        CProfileHeader::CID_COMM_NET,
+        CProfileHeader::CID_EQUIPMENT,
+        CProfileHeader::CID_HUMAN,
+        CProfileHeader::CID_MATERIAL,
+        CProfileHeader::CID_INVALID,
+        CProfileHeader::IFT_CSI,
+        CProfileHeader::IFT_HCI,
+        CProfileHeader::IFT_ISI,
+        CProfileHeader::IFT_API,
+        CProfileHeader::IFT_CMI,
+        CProfileHeader::IFT_ESI,
+        CProfileHeader::IFT_FSI,
+        CProfileHeader::IFT_MTI,
+        CProfileHeader::IFT_SEI,
+        CProfileHeader::IFT_USI,
+        CProfileHeader::IFT_INVALID,
+        CVersion::VTYPE_SW,
+        CVersion::VTYPE_FW,
+        CVersion::VTYPE_HW,
+        CVersion::VTYPE_INVALID,
+        CGLabel::GLABTYP_LABEL,
+        CGLabel::GLABTYP_DESCRIPTION,
+        CGLabel::GLABTYP_LABEL_REF,
+        CGLabel::GLABTYP_DESCRIPTION_REF,
+        CGLabel::GLABTYP_INVALID};
+    QCOMPARE(numbered, (QVector<int>{0, 1, 2, 3, 4, 5,  6, 7, 8, 9, 0, 1, 2, 3, 4,
+                                     5, 6, 7, 8, 9, 10, 0, 1, 2, 3, 0, 1, 2, 3, 4}));
+    using Entry = CCanOpenSubObject;
+    const QVector<int> access = {
+        Entry::OBJ_ACCESS_RO, Entry::OBJ_ACCESS_WO, Entry::OBJ_ACCESS_RW, Entry::OBJ_ACCESS_CONST};
+    QCOMPARE(access, (QVector<int>{0, 1, 2, 3}));
+    const QVector<int> mapping = {
+        Entry::OBJ_MAP_NO, Entry::OBJ_MAP_DEFAULT, Entry::OBJ_MAP_OPTIONAL, Entry::OBJ_MAP_TPDO, Entry::OBJ_MAP_RPDO};
+    QCOMPARE(mapping, (QVector<int>{0, 1, 2, 3, 4}));
+    QCOMPARE(int(Entry::OBJ_ACCESS_INVALID) + int(Entry::OBJ_MAP_INVALID), 510);
+    using Rate = CNetworkCanOpenProfile;
+    const QVector<int> rates = {Rate::BAUD_INVALID,  Rate::BAUD_AUTO,     Rate::BAUD_10_KBPS,  Rate::BAUD_20_KBPS,
+                                Rate::BAUD_50_KBPS,  Rate::BAUD_100_KBPS, Rate::BAUD_125_KBPS, Rate::BAUD_250_KBPS,
+                                Rate::BAUD_500_KBPS, Rate::BAUD_800_KBPS, Rate::BAUD_1000_KBPS};
+    QCOMPARE(rates, (QVector<int>{-1, 0, 10, 20, 50, 100, 125, 250, 500, 800, 1000}));
+}
+
+void TestRecords::headerDefaults()
+{
+    const CProfileHeader header;
+    QCOMPARE(header.mIso15745Part, 1U);
+    QCOMPARE(header.mIso15745Edition, 1U);
+    QCOMPARE(header.mProfileClassId, CProfileHeader::CID_INVALID);
+    QCOMPARE(header.mIasInterfaceType, CProfileHeader::IFT_INVALID);
+    QVERIFY(header.mProfileDate.isNull() && header.mProfileTechnology.isEmpty() && header.mProfileName.isEmpty());
+}
+
 void TestRecords::tablesAreCopies()
 {
     auto access = CCanOpenSubObject::createAccessMap();
@@ -153,6 +216,7 @@ void TestRecords::deviceProfileDefaults()
     QVERIFY(profile.mVendorName.mReadOnly && profile.mVendorId.mReadOnly && profile.mProductFamily.mReadOnly);
     QVERIFY(profile.mProductId.mReadOnly && profile.mOrderNumber.mReadOnly && profile.mSpecificationRevision.mReadOnly);
     QVERIFY(!profile.mProductName.mReadOnly && !profile.mInstanceName.mReadOnly);
+    QVERIFY(profile.mVendorText.mReadOnly && profile.mDeviceFamily.mReadOnly && profile.mProductText.mReadOnly);
     QVERIFY(!profile.mVendorText.valid() && !profile.mDeviceFamily.valid());
     QCOMPARE(profile.mDeviceFamily.mLabels.size(), 1);
     QVERIFY(profile.mProductText.valid() && profile.mCharacteristic.valid());
@@ -169,7 +233,7 @@ void TestRecords::networkProfileDefaults()
     QCOMPARE(profile.mBaudRate, CNetworkCanOpenProfile::BAUD_250_KBPS);
     QVERIFY(profile.mSupportedBaudRates.isEmpty() && profile.mObjects.isEmpty());
     QCOMPARE(profile.mMandatoryObjects + profile.mOptionalObjects + profile.mManufacturerObjects, 0U);
-    QVERIFY(!profile.mDeviceFamily.valid());
+    QVERIFY(!profile.mDeviceFamily.valid() && profile.mDeviceFamily.mReadOnly);
     QVERIFY(profile.mVendorId.mReadOnly && profile.mProductId.mReadOnly && profile.mSpecificationRevision.mReadOnly);
     QVERIFY(!CVersion(false).mReadOnly);
     QCOMPARE(CVersion(true).mVersionType, CVersion::VTYPE_INVALID);

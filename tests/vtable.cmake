@@ -1,10 +1,10 @@
 # Compares the order of the virtual table with the recorded one. It is taken from the implementation, because in that of
 # the interface all functions look the same. Called with
-#   cmake -D COMPILER=... -D FLAGS=... -D HEADER=... -D RECORDED=... -D WORK_DIR=... -P vtable.cmake
+#   cmake -D COMPILER=... -D FOLDERS=... -D HEADER=... -D RECORDED=... -D WORK_DIR=... -P vtable.cmake
 file(MAKE_DIRECTORY ${WORK_DIR})
-separate_arguments(FLAGS UNIX_COMMAND "${FLAGS}")
+string(REPLACE "|" ";-I" flags "-I${FOLDERS}")
 execute_process(
-    COMMAND ${COMPILER} -x c++ -std=c++17 -fPIC ${FLAGS} -fsyntax-only -fdump-lang-class=${WORK_DIR}/classes.txt ${HEADER}
+    COMMAND ${COMPILER} -x c++ -std=c++17 -fPIC ${flags} -fsyntax-only -fdump-lang-class=${WORK_DIR}/classes.txt ${HEADER}
     COMMAND_ERROR_IS_FATAL ANY)
 file(READ ${WORK_DIR}/classes.txt classes)
 string(REGEX MATCH "Vtable for CIso15745Impl\n[^\n]*\n([0-9]+ [^\n]*\n)+" table "${classes}")

@@ -124,8 +124,8 @@ const NormalizeRules& dictionaryRules()
              "mvxXddTools", "dataType (hexadecimal in the format), objectType, subNumber or a count of objects "
                             "(decimal) has no prefix "
                             "and would be read as another number or not at all: the same number with \"0x\""),
-         QT_TRANSLATE_NOOP("mvxXddTools", "without \"0x\" the number would be read as another one or not at all"), true,
-         numbers},
+         QT_TRANSLATE_NOOP("mvxXddTools", "without \"0x\" the number would be read as another one or not at all"),
+         false, numbers},
         {"writing",
          QT_TRANSLATE_NOOP(
              "mvxXddTools",
@@ -136,7 +136,7 @@ const NormalizeRules& dictionaryRules()
              "mvxXddTools", "An object or sub-object with uniqueIDRef lacks dataType, accessType, defaultValue, "
                             "actualValue, lowLimit or "
                             "highLimit: what its parameter states"),
-         QT_TRANSLATE_NOOP("mvxXddTools", "stated by the parameter that the entry refers to"), true, parameters},
+         QT_TRANSLATE_NOOP("mvxXddTools", "stated by the parameter that the entry refers to"), false, parameters},
     };
     return rules;
 }

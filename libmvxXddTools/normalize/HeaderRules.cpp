@@ -147,13 +147,13 @@ const NormalizeRules& headerRules()
          QT_TRANSLATE_NOOP("mvxXddTools", "a required element that states nothing is empty"), false, requiredItems},
         {"class",
          QT_TRANSLATE_NOOP("mvxXddTools", "Blanks or other capitals make ProfileClassID an unknown class: the class"),
-         QT_TRANSLATE_NOOP("mvxXddTools", "a profile of an unknown class would not be read"), false, profileClass},
+         QT_TRANSLATE_NOOP("mvxXddTools", "a profile of an unknown class would not be read"), true, profileClass},
         {"file-date",
          QT_TRANSLATE_NOOP(
              "mvxXddTools", "A file date is written in another common form, or there is no creation date: yyyy-MM-dd; "
                             "the modification "
                             "date or 1970-01-01"),
-         QT_TRANSLATE_NOOP("mvxXddTools", "dates are written yyyy-MM-dd"), false, fileDates},
+         QT_TRANSLATE_NOOP("mvxXddTools", "dates are written yyyy-MM-dd"), true, fileDates},
         {"file-attribute",
          QT_TRANSLATE_NOOP("mvxXddTools", "fileCreator, fileName or fileVersion is missing: an empty one"),
          QT_TRANSLATE_NOOP("mvxXddTools", "a required file attribute that states nothing is empty"), false,

@@ -12,7 +12,7 @@ struct SNormalizeRule
     const char* id;      ///< Such as "read-only"
     const char* summary; ///< What it looks for and does, in English, to be translated in the context "mvxXddTools"
     const char* reason;  ///< Why that is what the file means, likewise
-    bool matters;        ///< Bears on what a reader of the description sees
+    bool matters;        ///< The file does not write it as the format does; see CXddChange
     void (*apply)(const CDescription& description, CXmlEdits& edits);
 };
 

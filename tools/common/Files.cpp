@@ -93,7 +93,7 @@ QString SDestination::refusal(const QStringList& fileNames) const
         return QCoreApplication::translate("tools", "There is no folder %1.").arg(outputDir);
     }
     if (fileNames.size() > 1 && outputDir.isEmpty() && !inPlace) {
-        return QCoreApplication::translate("tools", "Several files need a folder to be written to.");
+        return QCoreApplication::translate("tools", "Several files need --output-dir.");
     }
     QHash<QString, QString> sources;
     for (const QString& fileName : fileNames) {

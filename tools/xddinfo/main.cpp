@@ -106,9 +106,12 @@ void reportChanges(const QString& fileName, const QList<CXddChange>& changes)
     const auto mattering = std::count_if(
         changes.begin(), changes.end(), [](const CXddChange& change) { return change.mChanged && change.mMatters; });
     if (mattering > 0) {
-        complain(QCoreApplication::translate(
-                     "xddinfo", "%1: Types, access, values or rates of %2 entries are read as they are meant; "
-                                "'xddnormalize --dry-run' lists them.")
+        complain((mattering == 1 ? QCoreApplication::translate(
+                      "xddinfo", "%1: %2 place is not written as the format does and is read as it is "
+                                 "meant; 'xddnormalize --dry-run' shows it.")
+                                 : QCoreApplication::translate(
+                                     "xddinfo", "%1: %2 places are not written as the format does and are read as they "
+                                                "are meant; 'xddnormalize --dry-run' lists them."))
                      .arg(fileName, QString::number(mattering)));
     }
 }
