@@ -18,7 +18,7 @@ template <typename Enum> QString textOf(const QStringList& texts, Enum value, co
 
 template <typename Enum> Enum valueOf(const QStringList& texts, const QString& text, Enum invalid)
 {
-    const int index = texts.indexOf(text);
+    const auto index = texts.indexOf(text);
     return index < 0 ? invalid : static_cast<Enum>(index);
 }
 

@@ -1,8 +1,8 @@
 #include "Description.h"
+#include "TestEncodings.h"
 
 #include <QDomDocument>
 #include <QTemporaryFile>
-#include <QTextCodec>
 #include <QtTest>
 
 #include <memory>
@@ -30,6 +30,11 @@ private Q_SLOTS:
 
 namespace
 {
+bool hasQt5()
+{
+    return QLibraryInfo::version().majorVersion() == 5;
+}
+
 QString load(const QByteArray& text)
 {
     const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
@@ -97,7 +102,9 @@ void TestHostile::limits_data()
     row("nested namespaces", numbered("<a xmlns:a#='u'>", 65), declarations);
     row("bare declaration", "<!DOCTYPE a><a/>", "");
     row("external subset", "<!DOCTYPE a SYSTEM \"[\"><a/>", "");
-    row("bracket in an identifier", "<!DOCTYPE a PUBLIC '[' '['  ><a/>", "");
+    if (hasQt5()) { // Qt 6 refuses a bracket in a public identifier, as the standard does
+        row("bracket in an identifier", "<!DOCTYPE a PUBLIC '[' '['  ><a/>", "");
+    }
     row("empty subset", "<!DOCTYPE a []><a/>", subset);
     row("external and internal subset", "<!DOCTYPE a SYSTEM 's' [ ]><a/>", subset);
     row("subset that closes at once", "<!DOCTYPE a [>", subset);
@@ -215,14 +222,16 @@ void TestHostile::truncatedEverywhere()
     }
 }
 
-// Whatever Qt's codecs make of a description, it loads as in UTF-8 or gives a message.
+// Whatever Qt's codecs make of a description, it loads as in UTF-8 or gives a message, and no encoding hides a limit.
 void TestHostile::encodings()
 {
-    for (const QByteArray& name : QTextCodec::availableCodecs()) {
-        const QByteArray text = changed(description(), "encoding=\"UTF-8\"", "encoding=\"" + name + '"');
-        QTextCodec* const codec = QTextCodec::codecForName(name);
-        QVERIFY(codec != nullptr);
-        for (const QByteArray& encoded : {codec->fromUnicode(QString::fromUtf8(text)), text}) {
+    const auto withEncoding = [](const QByteArray& text, const QByteArray& name) {
+        return changed(text, "encoding=\"UTF-8\"", "encoding=\"" + name + '"');
+    };
+    const QByteArray deep = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>" + nested(300);
+    for (const QByteArray& name : testEncodings()) {
+        const QByteArray text = withEncoding(description(), name);
+        for (const QByteArray& encoded : {encodedAs(name, QString::fromUtf8(text)), text}) {
             const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
             QString error;
             if (loadText(*reader, encoded, error)) {
@@ -231,6 +240,8 @@ void TestHostile::encodings()
                 QVERIFY2(!error.isEmpty(), name.constData());
             }
         }
+        const QString refusal = load(encodedAs(name, QString::fromUtf8(withEncoding(deep, name))));
+        QVERIFY2(refusal.startsWith(QLatin1String("Read file \"")), name.constData());
     }
 }
 
@@ -259,7 +270,8 @@ void TestHostile::hugeTexts()
     QCOMPARE(reader->deviceProfile().mVendorName.mValue.size(), huge.size());
     QCOMPARE(reader->getObj(0x2000).mName.size(), huge.size());
     QVERIFY(load(changed(description(), "index=\"1018\"", "index=\"" + huge + '"')).size() < 1000);
-    QVERIFY(load(changed(description(), "<Comment/>", '<' + huge + "/>")).isEmpty());
+    // Qt 6 reads names of up to 4,096 characters.
+    QCOMPARE(load(changed(description(), "<Comment/>", '<' + huge + "/>")).isEmpty(), hasQt5());
 }
 
 // Readers on several threads come to the same results as on one, messages and conversions included.

@@ -114,7 +114,7 @@ void TestLibrary::layouts()
     using Header = CProfileHeader;
     using Network = CNetworkCanOpenProfile;
     compareWithRecord(
-        QStringLiteral("layouts"),
+        QStringLiteral("layouts" MVX_SUFFIX),
         {layoutOf(
              "CProfileHeader", &Header::mProfileIdentification, &Header::mProfileRevision, &Header::mProfileName,
              &Header::mProfileSource, &Header::mProfileClassId, &Header::mProfileDate, &Header::mAdditionalInformation,
@@ -164,10 +164,10 @@ void TestLibrary::layouts()
 void TestLibrary::soNames()
 {
     const QString own = output(OBJDUMP, {QStringLiteral("-p"), QStringLiteral(LIBRARY_FILE)});
-    QVERIFY(own.contains(QRegularExpression(QStringLiteral("SONAME +libmvxIso15745Xml\\.so\\.0\\.1\n"))));
-    QVERIFY(own.contains(QRegularExpression(QStringLiteral("NEEDED +libmvxXml\\.so\\.0\\.1\n"))));
+    QVERIFY(own.contains(QRegularExpression(QStringLiteral("SONAME +libmvxIso15745Xml" MVX_SUFFIX "\\.so\\.0\\.1\n"))));
+    QVERIFY(own.contains(QRegularExpression(QStringLiteral("NEEDED +libmvxXml" MVX_SUFFIX "\\.so\\.0\\.1\n"))));
     const QString xml = output(OBJDUMP, {QStringLiteral("-p"), QStringLiteral(XML_LIBRARY_FILE)});
-    QVERIFY(xml.contains(QRegularExpression(QStringLiteral("SONAME +libmvxXml\\.so\\.0\\.1\n"))));
+    QVERIFY(xml.contains(QRegularExpression(QStringLiteral("SONAME +libmvxXml" MVX_SUFFIX "\\.so\\.0\\.1\n"))));
 }
 
 void TestLibrary::samples_data()
@@ -211,7 +211,7 @@ void TestLibrary::samples()
     int subObjects = 0;
     int references = 0;
     for (const CCanOpenObject& object : network.mObjects) {
-        subObjects += object.mSubObjects.size();
+        subObjects += int(object.mSubObjects.size());
         references += object.mUniqueIdRef.isEmpty() ? 0 : 1;
         QCOMPARE(object.mSubObjects.size(), int(object.mSubNumber));
         QVERIFY(object.mPdoMapping != CCanOpenSubObject::OBJ_MAP_INVALID);

@@ -37,7 +37,7 @@ QString inTag(const char* tag, int line)
 // The number of the line of @p text that starts with @p start, the last one if there are several.
 int lineOf(const QByteArray& text, const QByteArray& start)
 {
-    return text.left(text.lastIndexOf('\n' + start) + 1).count('\n') + 1;
+    return int(text.left(text.lastIndexOf('\n' + start) + 1).count('\n')) + 1;
 }
 
 std::unique_ptr<ICIso15745> reader()
@@ -57,9 +57,16 @@ void TestLoad::files_data()
     };
     QTest::newRow("absent") << latin1("no%2.xdd") << QByteArray()
                             << latin1("Cannot open file \"%1\": File does not exist.");
-    QTest::newRow("empty") << latin1("a") << QByteArray("") << parseError("line 1, column 1: unexpected end of file");
+    // The parsers of both versions of Qt have words and places of their own.
+    const bool hasQt5 = QLibraryInfo::version().majorVersion() == 5;
+    QTest::newRow("empty") << latin1("a") << QByteArray("")
+                           << parseError(
+                                  hasQt5 ? "line 1, column 1: unexpected end of file"
+                                         : "line 1, column 0: Premature end of document.");
     QTest::newRow("cut off") << latin1("%1 %2") << QByteArray("<a>\n<b")
-                             << parseError("line 2, column 3: unexpected end of file");
+                             << parseError(
+                                    hasQt5 ? "line 2, column 3: unexpected end of file"
+                                           : "line 2, column 2: Premature end of document.");
     QTest::newRow("no name") << QString() << QByteArray() << latin1("Cannot open file \"\": File does not exist.");
     QTest::newRow("other root")
         << latin1("r") << QByteArray("<ISO15745Profile/>")

@@ -62,7 +62,7 @@ void TestRecords::enumerationTexts_data()
     const auto list = [&](const char* name, const SConversion& conversion, const char* words) {
         QMap<int, QString> texts;
         for (const QString& word : QString::fromLatin1(words).split(QLatin1Char(' '))) {
-            texts.insert(texts.size(), word);
+            texts.insert(int(texts.size()), word);
         }
         table(name, conversion, texts);
     };

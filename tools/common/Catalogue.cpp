@@ -1,7 +1,8 @@
 #include "Catalogue.h"
 
+#include "TranslationsFolder.h"
+
 #include <QCoreApplication>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QStringList>
 #include <QTranslator>
@@ -23,7 +24,7 @@ void install(const QString& name, const QStringList& folders)
 
 void installCatalogue()
 {
-    const QString qtFolder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+    const QString qtFolder = translationsFolder();
     install(QStringLiteral("qtbase"), {qtFolder});
     install(
         QStringLiteral("mvxIso15745Xml"),

@@ -68,8 +68,9 @@ void complainAbout(const QString& fileName, const QString& message)
     const int line = lineIn(text);
     if (line > 0) {
         reportLine(place(fileName, line) + text);
-    } else if (text.contains(QLatin1Char('"') + native + QLatin1Char('"'))
-               || text.contains(QLatin1Char(' ') + native + QLatin1String(": "))) {
+    } else if (
+        text.contains(QLatin1Char('"') + native + QLatin1Char('"'))
+        || text.contains(QLatin1Char(' ') + native + QLatin1String(": "))) {
         complain(text);
     } else {
         complain(fileName + QLatin1String(": ") + text);

@@ -38,7 +38,7 @@ QString fitted(const QString& text, int width)
     }
     const QLatin1String dots("...");
     QString beginning;
-    int used = dots.size();
+    int used = int(dots.size());
     for (const uint character : text.toUcs4()) {
         used += columnsOf(character);
         if (used > width) {

@@ -1,0 +1,8 @@
+#include "TranslationsFolder.h"
+
+#include <QLibraryInfo>
+
+QString translationsFolder()
+{
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+}
