@@ -2,7 +2,7 @@
 
 namespace
 {
-QByteArray header(const char* classId)
+QByteArray header(const char* classId, const char* type)
 {
     return QByteArray("  <ISO15745Profile>\n    <ProfileHeader>\n"
                       "      <ProfileIdentification>benchmark</ProfileIdentification>\n"
@@ -13,7 +13,9 @@ QByteArray header(const char* classId)
              "        <ISO15745Edition>1</ISO15745Edition>\n"
              "        <ProfileTechnology>CANopen</ProfileTechnology>\n      </ISO15745Reference>\n    "
              "</ProfileHeader>\n"
-             "    <ProfileBody fileName=\"benchmark.xdd\" fileCreator=\"\" fileCreationDate=\"2011-10-05\" "
+             "    <ProfileBody xsi:type=\""
+           + type
+           + "\" fileName=\"benchmark.xdd\" fileCreator=\"\" fileCreationDate=\"2011-10-05\" "
              "fileVersion=\"1\">\n";
 }
 
@@ -38,12 +40,15 @@ QByteArray object(int number)
 
 QByteArray descriptionWith(int objects)
 {
-    QByteArray text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ISO15745ProfileContainer>\n" + header("Device")
+    QByteArray text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ISO15745ProfileContainer "
+                      "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\">\n"
+                      + header("Device", "ProfileBody_Device_CANopen")
                       + "      <DeviceFunction><capabilities><characteristicsList><characteristic><characteristicName>"
                         "<label lang=\"en\"/></characteristicName><characteristicContent><label lang=\"en\"/>"
                         "</characteristicContent></characteristic></characteristicsList></capabilities>"
                         "</DeviceFunction>\n    </ProfileBody>\n  </ISO15745Profile>\n"
-                      + header("CommunicationNetwork") + "      <ApplicationLayers>\n        <CANopenObjectList>\n";
+                      + header("CommunicationNetwork", "ProfileBody_CommunicationNetwork_CANopen")
+                      + "      <ApplicationLayers>\n        <CANopenObjectList>\n";
     for (int number = 0; number < objects; ++number) {
         text += object(number);
     }

@@ -1,5 +1,7 @@
 #include "Descriptions.h"
 
+#include <CXddChecker.h>
+#include <CXddNormalizer.h>
 #include <ICIso15745.h>
 
 #include <QDomDocument>
@@ -15,7 +17,9 @@
 
 // Measures loading against parsing alone. Usage:
 //   load_once write OBJECTS FILE        writes a description
-//   load_once (floor|load) TIMES FILE   parses or loads it so often, for callgrind and for the peak of memory
+//   load_once (floor|load|open|check) TIMES FILE
+//                                       parses it, loads it, loads it normalised, or checks it so often, for callgrind
+//                                       and for the peak of memory
 //   load_once pairs TIMES FILE          does both in turn and prints the median ratio of their times
 
 namespace
@@ -35,6 +39,24 @@ void load(const QString& fileName)
     QString error;
     if (!reader->load(fileName, error)) {
         qFatal("%s", qUtf8Printable(error));
+    }
+}
+
+void openAny(const QString& fileName)
+{
+    const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
+    QList<CXddChange> changes;
+    QString error;
+    if (!CXddNormalizer::load(*reader, fileName, changes, error)) {
+        qFatal("%s", qUtf8Printable(error));
+    }
+}
+
+void check(const QString& fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly) || CXddChecker::check(file.readAll()).isEmpty()) {
+        qFatal("Nothing found in %s, where mandatory objects are missing", qUtf8Printable(fileName));
     }
 }
 
@@ -61,7 +83,7 @@ double medianRatio(int times, const QString& fileName)
 int main(int argc, char* argv[])
 {
     if (argc != 4) {
-        std::fprintf(stderr, "usage: load_once (write|floor|load|pairs) NUMBER FILE\n");
+        std::fprintf(stderr, "usage: load_once (write|floor|load|open|check|pairs) NUMBER FILE\n");
         return 2;
     }
     const QByteArray what = argv[1];
@@ -75,8 +97,9 @@ int main(int argc, char* argv[])
         std::printf("%.3f\n", medianRatio(number, fileName));
         return 0;
     }
+    const auto work = what == "load" ? load : what == "open" ? openAny : what == "check" ? check : parse;
     for (int i = 0; i < number; ++i) {
-        what == "load" ? load(fileName) : parse(fileName);
+        work(fileName);
     }
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
