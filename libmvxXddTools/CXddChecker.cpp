@@ -11,7 +11,8 @@ namespace
 {
 std::vector<const CheckRules*> ruleGroups()
 {
-    return {&formRules(), &identityRules(), &objectRules(), &valueRules(), &pdoRules(), &cobIdRules(), &networkRules()};
+    return {&formRules(),  &identityRules(), &objectRules(), &typeRules(),
+            &valueRules(), &pdoRules(),      &cobIdRules(),  &networkRules()};
 }
 } // namespace
 

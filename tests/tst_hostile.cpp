@@ -1,6 +1,10 @@
 #include "Description.h"
 #include "TestEncodings.h"
 
+#include <CXddChecker.h>
+#include <CXddEdsWriter.h>
+#include <CXddNormalizer.h>
+
 #include <QDomDocument>
 #include <QTemporaryFile>
 #include <QtTest>
@@ -25,6 +29,9 @@ private Q_SLOTS:
     void encodings();
     void manyObjects();
     void hugeTexts();
+    void toolsOnManyOfAKind_data();
+    void toolsOnManyOfAKind();
+    void toolsOnMutations();
     void threads();
 };
 
@@ -64,9 +71,53 @@ void compareWithQt(const QByteArray& text)
         qPrintable(error + QLatin1String(" instead of ") + (parsed ? QString() : expected)));
 }
 
+// Why the tools refuse a text; nothing when they take it. What they make of it has to hold together.
+QString tools(const QByteArray& text)
+{
+    QByteArray normalized;
+    QByteArray again;
+    QList<CXddChange> changes;
+    CXddEds eds;
+    QString error;
+    const bool isDescription = CXddNormalizer::normalize(text, normalized, changes, error);
+    if (CXddEdsWriter::write(text, eds, error) != isDescription) {
+        qFatal("Only one of normalising and converting takes the text");
+    }
+    if (!isDescription) {
+        return error;
+    }
+    if (!CXddNormalizer::normalize(normalized, again, changes, error) || again != normalized) {
+        qFatal("Normalising a second time changes something");
+    }
+    if (eds.mIncomplete > eds.mEntries || CXddChecker::check(text).size() < 0) {
+        qFatal("More entries are incomplete than there are");
+    }
+    return QString();
+}
+
 QByteArray nested(int depth)
 {
     return QByteArray("<a>").repeated(depth) + QByteArray("</a>").repeated(depth);
+}
+
+// A text with a few bytes changed, removed or repeated.
+QByteArray mutated(QByteArray text, std::minstd_rand& random)
+{
+    const QByteArray bytes("<>&;'\"/![]?-=\0\x80\xFF x", 18);
+    for (unsigned int change = random() % 4; change < 4; ++change) {
+        const int position = int(random() % unsigned(text.size()));
+        switch (random() % 3) {
+        case 0:
+            text[position] = bytes.at(int(random() % unsigned(bytes.size())));
+            break;
+        case 1:
+            text.remove(position, int(random() % 20));
+            break;
+        default:
+            text.insert(position, text.mid(int(random() % unsigned(text.size())), int(random() % 20)));
+        }
+    }
+    return text;
 }
 
 QByteArray numbered(const char* pattern, int count)
@@ -137,6 +188,14 @@ void TestHostile::limits()
         QVERIFY2(error.startsWith(QLatin1String("Read file \"")), qPrintable(error));
         QVERIFY2(error.endsWith(QLatin1String(": ") + reason), qPrintable(error));
     }
+    // The tools keep the same limits.
+    const QList<CXddFinding> findings = CXddChecker::check(text);
+    QCOMPARE(findings.size(), 1);
+    if (!reason.isEmpty()) {
+        QCOMPARE(findings.first().mRule, QStringLiteral("not-well-formed"));
+        QCOMPARE(findings.first().mText, reason);
+        QVERIFY(tools(text).endsWith(reason));
+    }
 }
 
 void TestHostile::aRefusalKeepsTheReader()
@@ -186,26 +245,12 @@ void TestHostile::sameAsQt()
     compareWithQt(text);
 }
 
-// Descriptions with a few bytes changed, removed or repeated; always the same ones.
+// Always the same ones.
 void TestHostile::mutationsAreSameAsQt()
 {
     std::minstd_rand random(1);
-    const QByteArray bytes("<>&;'\"/![]?-=\0\x80\xFF x", 18);
     for (int round = 0; round < 1000; ++round) {
-        QByteArray text = description();
-        for (unsigned int change = random() % 4; change < 4; ++change) {
-            const int position = int(random() % unsigned(text.size()));
-            switch (random() % 3) {
-            case 0:
-                text[position] = bytes.at(int(random() % unsigned(bytes.size())));
-                break;
-            case 1:
-                text.remove(position, int(random() % 20));
-                break;
-            default:
-                text.insert(position, text.mid(int(random() % unsigned(text.size())), int(random() % 20)));
-            }
-        }
+        const QByteArray text = mutated(description(), random);
         compareWithQt(text);
         if (QTest::currentTestFailed()) {
             qWarning("in round %d", round);
@@ -272,6 +317,99 @@ void TestHostile::hugeTexts()
     QVERIFY(load(changed(description(), "index=\"1018\"", "index=\"" + huge + '"')).size() < 1000);
     // Qt 6 reads names of up to 4,096 characters.
     QCOMPARE(load(changed(description(), "<Comment/>", '<' + huge + "/>")).isEmpty(), hasQt5());
+}
+
+// Much of whatever a rule compares with each other.
+void TestHostile::toolsOnManyOfAKind_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("added");
+    QTest::addColumn<int>("most"); // Most findings; each is a line of the report
+    const QByteArray objects = "</CANopenObjectList>";
+    const auto repeated = [](int count, const auto& text) {
+        QByteArray all;
+        for (int i = 0; i < count; ++i) {
+            all += text(i);
+        }
+        return all;
+    };
+    const auto entry = [](int i, const QByteArray& rest) {
+        return "<CANopenObject index='" + QByteArray::number(i, 16) + "' name='x' objectType='7' " + rest + "/>\n";
+    };
+    QTest::newRow("objects of one index")
+        << objects << repeated(50000, [&](int) { return entry(0x3000, {}); }) << 300000;
+    QTest::newRow("objects") << objects << repeated(100000, [&](int i) { return entry(0x10000 + i, {}); }) << 600000;
+    QTest::newRow("sub-objects of one object")
+        << objects
+        << "<CANopenObject index='3000' name='x' objectType='9'>"
+               + repeated(
+                   100000,
+                   [](int i) {
+                       return "<CANopenSubObject subIndex='" + QByteArray::number(i, 16)
+                              + "' name='x' objectType='7'/>\n";
+                   })
+               + "</CANopenObject>"
+        << 600000;
+    QTest::newRow("clashes of COB-IDs") << objects << repeated(5000, [](int i) {
+        const QByteArray number = QByteArray::number(i % 0x1FF + 1, 16).rightJustified(3, '0');
+        return "<CANopenObject index='1" + QByteArray(i % 2 == 0 ? "8" : "A").append(number.right(2))
+               + "' name='x' objectType='9'><CANopenSubObject subIndex='01' name='x' objectType='7' "
+                 "dataType='0007' accessType='rw' defaultValue='0x181'/></CANopenObject>\n";
+    }) << 100000;
+    const QByteArray types = "</dataTypeList>";
+    QTest::newRow("types that refer to each other many times")
+        << types
+        << repeated(
+               20,
+               [&](int i) {
+                   const QByteArray next = QByteArray::number(i + 1);
+                   return "<derived uniqueID='D" + QByteArray::number(i) + "'>"
+                          + QByteArray("<dataTypeIDRef uniqueIDRef='D" + next + "'/>").repeated(100) + "</derived>\n";
+               })
+               + "<derived uniqueID='D20'><INT/></derived>"
+               + repeated(
+                   15,
+                   [](int i) {
+                       return "<derived uniqueID='E" + QByteArray::number(i)
+                              + "'><dataTypeIDRef uniqueIDRef='D10'/></derived>";
+                   })
+        << 100;
+    QTest::newRow("a cycle of types") << types
+                                      << QByteArray("<derived uniqueID='A'><dataTypeIDRef uniqueIDRef='B'/></derived>"
+                                                    "<derived uniqueID='B'><dataTypeIDRef uniqueIDRef='A'/></derived>")
+                                      << 100;
+    QTest::newRow("parameters") << QByteArray("</parameterList>") << repeated(50000, [](int i) {
+        return "<parameter uniqueID='Q" + QByteArray::number(i)
+               + "'><dataTypeIDRef uniqueIDRef='T_LEVEL'/></parameter>\n";
+    }) << 100;
+    QTest::newRow("profiles") << QByteArray("</ISO15745ProfileContainer>")
+                              << QByteArray("<ISO15745Profile><ProfileHeader/><ProfileBody "
+                                            "type='ProfileBody_CommunicationNetwork_CANopen'><ApplicationLayers>"
+                                            "<CANopenObjectList><CANopenObject index='1000'/></CANopenObjectList>"
+                                            "</ApplicationLayers></ProfileBody></ISO15745Profile>\n")
+                                     .repeated(5000)
+                              << 200000;
+}
+
+void TestHostile::toolsOnManyOfAKind()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, added);
+    QFETCH(int, most);
+    QByteArray text = testData(QStringLiteral("sound.xdd"));
+    text = changed(text, before, added + before);
+    text = changed(text, "<dataTypeIDRef uniqueIDRef=\"T_LEVEL\"/>", "<dataTypeIDRef uniqueIDRef=\"D0\"/>");
+    QCOMPARE(tools(text), QString());
+    QVERIFY(CXddChecker::check(text).size() < most);
+}
+
+void TestHostile::toolsOnMutations()
+{
+    std::minstd_rand random(2);
+    const QByteArray base = testData(QStringLiteral("sound.xdd"));
+    for (int round = 0; round < 500; ++round) {
+        tools(mutated(base, random));
+    }
 }
 
 // Readers on several threads come to the same results as on one, messages and conversions included.

@@ -13,7 +13,7 @@ QString bitRateText(const QString& text)
     static const QRegularExpression form(
         QStringLiteral("^\\s*(\\d+)\\s*(k|m|)\\s*(?:bit/s|bits/s|bps|bit|baud|bd|)\\s*$"),
         QRegularExpression::CaseInsensitiveOption);
-    const QString automatic = VAL_BAUD_AUTO;
+    QString automatic = VAL_BAUD_AUTO;
     const QString word = text.trimmed().toLower();
     if (word == automatic.toLower() || word == QLatin1String("auto")) {
         return automatic;

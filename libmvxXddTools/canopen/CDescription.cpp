@@ -1,15 +1,21 @@
 #include "canopen/CDescription.h"
 
+#include "CCanOpenNames.h"
 #include "NIso15745Tags.h"
+#include "canopen/DataTypes.h"
 #include "canopen/ProcessNames.h"
 
 #include <QCoreApplication>
+#include <QSet>
 
 using namespace NIso15745Tags;
 using namespace NProcessNames;
 
 namespace
 {
+// Depth up to which a data type is followed to the type that it is derived from.
+constexpr int MAX_TYPE_DEPTH = 16;
+
 // By the class that the header states, or by the type of the body where it states none.
 EProfile kindOf(const CXmlElement& header, const CXmlElement& body)
 {
@@ -160,6 +166,44 @@ std::vector<CXmlElement> CDescription::elements() const
 CXmlElement CDescription::byUniqueId(const QString& id) const
 {
     return mByUniqueId.value(id);
+}
+
+QString CDescription::simpleTypeOf(const CXmlElement& described, bool isBlock) const
+{
+    return findSimpleType(described, isBlock, 0).value_or(QString());
+}
+
+// Nothing for a type that is derived from itself or too often, which ends the search: types may refer to many others.
+std::optional<QString> CDescription::findSimpleType(const CXmlElement& described, bool isBlock, int depth) const
+{
+    if (depth > MAX_TYPE_DEPTH) {
+        return std::nullopt;
+    }
+    QHash<int, QString>& found = mSimpleTypes[isBlock ? 1 : 0];
+    const int place = described.range().begin;
+    if (described.isNull() || described.is(TAG_ARRAY) || described.is(TAG_STRUCT)) {
+        return QString();
+    }
+    if (found.contains(place)) {
+        return found.value(place);
+    }
+    QSet<QString> types;
+    for (CXmlElement child = described.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (child.is(TAG_DATA_TYPE_ID_REF)) {
+            const auto type = findSimpleType(byUniqueId(child.attribute(ATTR_UNIQUE_ID_REF)), isBlock, depth + 1);
+            if (!type) {
+                return std::nullopt;
+            }
+            types << *type;
+        } else if (const unsigned int simple = simpleType(child.name())) {
+            // Blocks of data are bit strings, too, and have a type of their own.
+            types << CCanOpenNames::index(isBlock && child.is(TAG_BITSTRING) ? TYPE_DOMAIN : simple);
+        }
+    }
+    types.remove(QString());
+    const QString type = types.size() == 1 ? *types.cbegin() : QString();
+    found.insert(place, type);
+    return type;
 }
 
 CParameter CDescription::parameterOf(const CXmlElement& element) const

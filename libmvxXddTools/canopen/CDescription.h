@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 /** The two kinds of profile that a CANopen description has. */
@@ -74,15 +75,21 @@ public:
 
     /** The first element with that "uniqueID". */
     CXmlElement byUniqueId(const QString& id) const;
+    /** The index of the data type, such as "0x0007", of a parameter or of a type that it refers to, if that is one
+     * simple type; @p isBlock for an object that is a block of data. */
+    QString simpleTypeOf(const CXmlElement& described, bool isBlock) const;
     /** The parameter that an element refers to. */
     CParameter parameterOf(const CXmlElement& element) const;
 
 private:
+    std::optional<QString> findSimpleType(const CXmlElement& described, bool isBlock, int depth) const;
+
     const CXmlText& mText;
     CXmlElement mRoot;
     QHash<QString, CXmlElement> mByUniqueId;
     std::vector<SProfile> mProfiles;
     std::vector<SEntry> mEntries;
+    mutable QHash<int, QString> mSimpleTypes[2]; // By where a type begins: those that were found, and those of blocks
 };
 
 #endif

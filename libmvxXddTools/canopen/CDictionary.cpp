@@ -108,7 +108,7 @@ bool SDictionaryEntry::isWritable() const
 
 QString SDictionaryEntry::name() const
 {
-    const QString indexText = index ? CCanOpenNames::index(*index) : QStringLiteral("?");
+    QString indexText = index ? CCanOpenNames::index(*index) : QStringLiteral("?");
     if (!isSubObject) {
         return indexText;
     }
@@ -126,7 +126,7 @@ CDictionary::CDictionary(const CDescription& description)
     mEntries.reserve(description.entries().size());
     for (const SEntry& entry : description.entries()) {
         SDictionaryEntry added = entryOf(entry);
-        const int number = int(mEntries.size());
+        const std::size_t number = mEntries.size();
         if (added.isSubObject) {
             added.object = mObjects.back();
             SDictionaryEntry& object = mEntries[added.object];
@@ -153,7 +153,7 @@ const std::vector<SDictionaryEntry>& CDictionary::entries() const
     return mEntries;
 }
 
-const std::vector<int>& CDictionary::objects() const
+const std::vector<std::size_t>& CDictionary::objects() const
 {
     return mObjects;
 }
@@ -182,7 +182,8 @@ const SDictionaryEntry* CDictionary::variable(unsigned int index, unsigned int s
 std::vector<const SDictionaryEntry*> CDictionary::subObjects(const SDictionaryEntry& object) const
 {
     std::vector<const SDictionaryEntry*> found;
-    for (int number = object.object + 1; number <= object.object + object.subObjects; ++number) {
+    const std::size_t last = object.object + std::size_t(object.subObjects);
+    for (std::size_t number = object.object + 1; number <= last; ++number) {
         found.push_back(&mEntries[number]);
     }
     return found;

@@ -23,8 +23,8 @@ struct SDictionaryEntry
 {
     CXmlElement element;
     CParameter parameter;
-    int object = 0;     ///< Number of the object in the dictionary; its own for an object
-    int subObjects = 0; ///< How many sub-objects follow an object
+    std::size_t object = 0; ///< Number of the object in the dictionary; its own for an object
+    int subObjects = 0;     ///< How many sub-objects follow an object
     std::optional<unsigned int> index;
     std::optional<unsigned int> subIndex; ///< Of a sub-object
     unsigned int objectType = 0;          ///< 0 when it is not readable
@@ -60,7 +60,7 @@ public:
     /** Every object in document order, each followed by its sub-objects. */
     const std::vector<SDictionaryEntry>& entries() const;
     /** Every object with its number among the entries. */
-    const std::vector<int>& objects() const;
+    const std::vector<std::size_t>& objects() const;
 
     /** The first object with that index, or null. */
     const SDictionaryEntry* object(unsigned int index) const;
@@ -75,9 +75,9 @@ public:
 
 private:
     std::vector<SDictionaryEntry> mEntries;
-    std::vector<int> mObjects;
-    QHash<unsigned int, int> mByIndex;
-    QHash<quint64, int> mBySubIndex; // Index in the upper, sub-index in the lower half
+    std::vector<std::size_t> mObjects;
+    QHash<unsigned int, std::size_t> mByIndex;
+    QHash<quint64, std::size_t> mBySubIndex; // Index in the upper, sub-index in the lower half
 };
 
 #endif

@@ -1,9 +1,7 @@
 #include "canopen/CParameter.h"
 
-#include "CCanOpenNames.h"
 #include "NIso15745Tags.h"
 #include "canopen/CDescription.h"
-#include "canopen/DataTypes.h"
 #include "canopen/ProcessNames.h"
 
 using namespace NIso15745Tags;
@@ -11,37 +9,8 @@ using namespace NProcessNames;
 
 namespace
 {
-// Depth up to which a data type is followed to the type that it is derived from.
-constexpr int MAX_TYPE_DEPTH = 16;
-
 // Object code of an object that is a block of data, CiA 301.
 constexpr int OBJECT_CODE_DOMAIN = 2;
-
-// The data type of a parameter or of a type that it refers to, if it is one simple type.
-QString dataTypeOf(
-    const CDescription& description, const CXmlElement& described, const QString& objectType, int depth = 0)
-{
-    if (described.is(TAG_ARRAY) || described.is(TAG_STRUCT) || depth > MAX_TYPE_DEPTH) {
-        return QString();
-    }
-    QString found;
-    for (CXmlElement child = described.firstChild(); !child.isNull(); child = child.nextSibling()) {
-        QString type;
-        if (child.is(TAG_DATA_TYPE_ID_REF)) {
-            const CXmlElement referred = description.byUniqueId(child.attribute(ATTR_UNIQUE_ID_REF));
-            type = referred.isNull() ? QString() : dataTypeOf(description, referred, objectType, depth + 1);
-        } else if (const unsigned int simple = simpleType(child.name())) {
-            // Blocks of data are bit strings, too, and have a type of their own.
-            const bool isBlock = child.is(TAG_BITSTRING) && objectType.toInt() == OBJECT_CODE_DOMAIN;
-            type = CCanOpenNames::index(isBlock ? TYPE_DOMAIN : simple);
-        }
-        if (!type.isEmpty() && !found.isEmpty() && type != found) {
-            return QString();
-        }
-        found = type.isEmpty() ? found : type;
-    }
-    return found;
-}
 
 QString accessTypeOf(const QString& access)
 {
@@ -77,7 +46,7 @@ CXmlElement CParameter::element() const
 
 QString CParameter::dataType(const QString& objectType) const
 {
-    return isNull() ? QString() : dataTypeOf(*mDescription, mElement, objectType);
+    return isNull() ? QString() : mDescription->simpleTypeOf(mElement, objectType.toInt() == OBJECT_CODE_DOMAIN);
 }
 
 // Without the attribute a value can be read; arrays and structures have no access of their own.

@@ -64,7 +64,7 @@ unsigned int SPdoMapping::highestSubIndex() const
 std::vector<SPdoMapping> pdoMappings(const CDictionary& dictionary)
 {
     std::vector<SPdoMapping> mappings;
-    for (const int number : dictionary.objects()) {
+    for (const std::size_t number : dictionary.objects()) {
         const SDictionaryEntry& object = dictionary.entries()[number];
         const auto direction = mappingDirection(object.index.value_or(0));
         if (!direction) {

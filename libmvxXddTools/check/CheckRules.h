@@ -33,6 +33,7 @@ using CheckRules = std::vector<SCheckRule>;
 const CheckRules& formRules();
 const CheckRules& identityRules();
 const CheckRules& objectRules();
+const CheckRules& typeRules();
 const CheckRules& valueRules();
 const CheckRules& pdoRules();
 const CheckRules& cobIdRules();

@@ -55,15 +55,17 @@ bool isRestricted(const CValue& value)
 void cobId(const SChecked& checked, CFindings& findings)
 {
     for (const SDictionaryEntry& entry : checked.dictionary.entries()) {
-        const bool isSingle = !entry.isSubObject && (entry.index == SYNC || entry.index == TIME || entry.index == EMCY);
-        const bool isDefaultServer = entry.index == FIRST_SDO_SERVER && (entry.subIndex == 1U || entry.subIndex == 2U);
+        const unsigned int index = entry.index.value_or(0);
+        const unsigned int subIndex = entry.subIndex.value_or(0);
+        const bool isSingle = !entry.isSubObject && (index == SYNC || index == TIME || index == EMCY);
+        const bool isDefaultServer = index == FIRST_SDO_SERVER && (subIndex == 1 || subIndex == 2);
         if (!entry.value || !entry.value->isInteger() || !(isSingle || isDefaultServer || isCobIdOfPdo(entry))) {
             continue;
         }
         const CValue& value = *entry.value;
         const QString text = CFindings::quoted(entry.defaultValue, entry.element);
         if (isDefaultServer) {
-            const quint64 base = entry.subIndex == 1U ? 0x600 : 0x580;
+            const quint64 base = subIndex == 1 ? 0x600 : 0x580;
             if (!value.usesNodeId() && value.bits() == base) {
                 findings.add(entry, CFindings::tr("COB-ID %1 lacks $NODEID").arg(text));
             }

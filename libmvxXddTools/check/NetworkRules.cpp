@@ -27,7 +27,7 @@ std::vector<CXmlElement> managementElements(const SChecked& checked, QLatin1Stri
 unsigned int pdoCountOf(const CDictionary& dictionary, EPdoDirection direction)
 {
     const auto& objects = dictionary.objects();
-    return unsigned(std::count_if(objects.begin(), objects.end(), [&](int number) {
+    return unsigned(std::count_if(objects.begin(), objects.end(), [&](std::size_t number) {
         return communicationDirection(dictionary.entries()[number].index.value_or(0)) == direction;
     }));
 }

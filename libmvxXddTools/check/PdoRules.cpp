@@ -41,7 +41,7 @@ template <typename Look> void forMapped(const SChecked& checked, Look look)
 
 void pdoWithoutPartner(const SChecked& checked, CFindings& findings)
 {
-    for (const int number : checked.dictionary.objects()) {
+    for (const std::size_t number : checked.dictionary.objects()) {
         const SDictionaryEntry& object = checked.dictionary.entries()[number];
         const unsigned int index = object.index.value_or(0);
         const bool isMapping = mappingDirection(index).has_value();

@@ -14,7 +14,6 @@ struct SNamedValue
     QLatin1String name;
     const SStated* stated;
     std::optional<CValue> value; // Nothing when it is not given or not readable
-    bool isLimit;
 };
 
 std::vector<SNamedValue> valuesOf(const SDictionaryEntry& entry)
@@ -23,10 +22,10 @@ std::vector<SNamedValue> valuesOf(const SDictionaryEntry& entry)
         return stated.isGiven() ? CValue::read(stated.text, entry.dataType) : std::nullopt;
     };
     return {
-        {ATTR_DEFAULT_VALUE, &entry.defaultValue, read(entry.defaultValue), false},
-        {ATTR_ACTUAL_VALUE, &entry.actualValue, read(entry.actualValue), false},
-        {ATTR_LOW_LIMIT, &entry.lowLimit, read(entry.lowLimit), true},
-        {ATTR_HIGH_LIMIT, &entry.highLimit, read(entry.highLimit), true},
+        {ATTR_DEFAULT_VALUE, &entry.defaultValue, read(entry.defaultValue)},
+        {ATTR_ACTUAL_VALUE, &entry.actualValue, read(entry.actualValue)},
+        {ATTR_LOW_LIMIT, &entry.lowLimit, read(entry.lowLimit)},
+        {ATTR_HIGH_LIMIT, &entry.highLimit, read(entry.highLimit)},
     };
 }
 
@@ -98,9 +97,9 @@ void valueOutsideLimits(const SChecked& checked, CFindings& findings)
                                .arg(shown(entry, value), shown(entry, limit)));
             }
         };
-        for (int value = 0; value < 2; ++value) {
-            compare(values[value], values[2], true);
-            compare(values[value], values[3], false);
+        for (const SNamedValue& value : {values[0], values[1]}) {
+            compare(value, values[2], true);
+            compare(value, values[3], false);
         }
     });
 }

@@ -109,7 +109,7 @@ const CEdsReport& CEdsDocument::report() const
 
 void CEdsDocument::chooseObjects()
 {
-    for (const int number : mDictionary.objects()) {
+    for (const std::size_t number : mDictionary.objects()) {
         const SDictionaryEntry& entry = mDictionary.entries()[number];
         if (!isSayable(entry)) {
             continue;
@@ -317,9 +317,9 @@ void CEdsDocument::object(const SObject& object)
     }
     composed(object);
     const unsigned int arrayType = object.entry->objectType == CODE_ARRAY ? object.entry->dataType : 0;
-    for (auto entry = object.subObjects.cbegin(); entry != object.subObjects.cend(); ++entry) {
-        mSections.begin(sectionOf(**entry));
-        variable(**entry, arrayType);
+    for (const SDictionaryEntry* const entry : object.subObjects) {
+        mSections.begin(sectionOf(*entry));
+        variable(*entry, arrayType);
     }
 }
 

@@ -25,7 +25,7 @@ void CEdsSections::key(const QString& name, const QString& value)
 
 SEdsText CEdsSections::text(const QString& name, const QString& value)
 {
-    const SEdsText text = edsText(value, MAX_LINE - int(name.size()) - 1);
+    SEdsText text = edsText(value, MAX_LINE - int(name.size()) - 1);
     key(name, text.text);
     return text;
 }

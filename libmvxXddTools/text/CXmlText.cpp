@@ -5,6 +5,8 @@
 
 #include <QXmlStreamReader>
 
+#include <algorithm>
+
 namespace
 {
 // The character of a reference without "&" and ";", or nothing for an entity that is not predefined.
@@ -100,42 +102,42 @@ bool CXmlElement::isNull() const
 
 QString CXmlElement::name() const
 {
-    return isNull() ? QString() : mText->raw(mText->mNodes[mNode].name);
+    return isNull() ? QString() : mText->raw(mText->node(mNode).name);
 }
 
 bool CXmlElement::is(QLatin1String name) const
 {
-    return !isNull() && mText->view(mText->mNodes[mNode].name) == name;
+    return !isNull() && mText->view(mText->node(mNode).name) == name;
 }
 
 QString CXmlElement::prefix() const
 {
-    return isNull() ? QString() : mText->raw({mText->mNodes[mNode].begin + 1, mText->mNodes[mNode].name.begin});
+    return isNull() ? QString() : mText->raw({mText->node(mNode).begin + 1, mText->node(mNode).name.begin});
 }
 
 int CXmlElement::line() const
 {
-    return isNull() ? 0 : mText->mNodes[mNode].line;
+    return isNull() ? 0 : mText->node(mNode).line;
 }
 
 CXmlElement CXmlElement::parent() const
 {
-    return isNull() ? CXmlElement() : at(mText->mNodes[mNode].parent);
+    return isNull() ? CXmlElement() : at(mText->node(mNode).parent);
 }
 
 CXmlElement CXmlElement::firstChild() const
 {
-    return isNull() ? CXmlElement() : at(mText->mNodes[mNode].firstChild);
+    return isNull() ? CXmlElement() : at(mText->node(mNode).firstChild);
 }
 
 CXmlElement CXmlElement::lastChild() const
 {
-    return isNull() ? CXmlElement() : at(mText->mNodes[mNode].lastChild);
+    return isNull() ? CXmlElement() : at(mText->node(mNode).lastChild);
 }
 
 CXmlElement CXmlElement::nextSibling() const
 {
-    return isNull() ? CXmlElement() : at(mText->mNodes[mNode].nextSibling);
+    return isNull() ? CXmlElement() : at(mText->node(mNode).nextSibling);
 }
 
 CXmlElement CXmlElement::child(QLatin1String name) const
@@ -185,12 +187,12 @@ bool CXmlElement::isPlain() const
 
 SRange CXmlElement::range() const
 {
-    return isNull() ? SRange() : SRange{mText->mNodes[mNode].begin, mText->mNodes[mNode].end};
+    return isNull() ? SRange() : SRange{mText->node(mNode).begin, mText->node(mNode).end};
 }
 
 SRange CXmlElement::content() const
 {
-    return isNull() ? SRange() : SRange{mText->mNodes[mNode].contentBegin, mText->mNodes[mNode].contentEnd};
+    return isNull() ? SRange() : SRange{mText->node(mNode).contentBegin, mText->node(mNode).contentEnd};
 }
 
 SRange CXmlElement::valueRange(QLatin1String attribute) const
@@ -201,12 +203,12 @@ SRange CXmlElement::valueRange(QLatin1String attribute) const
 
 int CXmlElement::attributesEnd() const
 {
-    return isNull() ? 0 : mText->mNodes[mNode].attributesEnd;
+    return isNull() ? 0 : mText->node(mNode).attributesEnd;
 }
 
 bool CXmlElement::isEmptyTag() const
 {
-    return !isNull() && mText->mNodes[mNode].isEmptyTag;
+    return !isNull() && mText->node(mNode).isEmptyTag;
 }
 
 bool CXmlElement::operator==(const CXmlElement& other) const
@@ -234,23 +236,23 @@ bool CXmlText::readStructure(SError& error)
     while (!reader.atEnd() && refusal.isEmpty()) {
         const QXmlStreamReader::TokenType token = reader.readNext();
         if (token == QXmlStreamReader::StartElement && next < int(mNodes.size())) {
-            SNode& node = mNodes[next];
-            namespaces += node.namespaces;
+            SNode& opened = mNodes[std::size_t(next)];
+            namespaces += opened.namespaces;
             refusal = ++depth > CXmlLimits::MAX_DEPTH           ? CXmlLimits::tooDeep()
                       : namespaces > CXmlLimits::MAX_NAMESPACES ? CXmlLimits::tooManyNamespaces()
                                                                 : QString();
-            node.parent = open;
+            opened.parent = open;
             if (open >= 0) {
-                SNode& parent = mNodes[open];
-                (parent.firstChild < 0 ? parent.firstChild : mNodes[parent.lastChild].nextSibling) = next;
+                SNode& parent = mNodes[std::size_t(open)];
+                (parent.firstChild < 0 ? parent.firstChild : mNodes[std::size_t(parent.lastChild)].nextSibling) = next;
                 parent.lastChild = next;
             }
             open = next++;
         } else if (token == QXmlStreamReader::EndElement && open >= 0) {
             --depth;
-            namespaces -= mNodes[open].namespaces;
+            namespaces -= node(open).namespaces;
             close(open, int(reader.characterOffset()));
-            open = mNodes[open].parent;
+            open = node(open).parent;
         }
     }
     if (refusal.isEmpty() && !reader.hasError()) {
@@ -260,10 +262,11 @@ bool CXmlText::readStructure(SError& error)
     return false;
 }
 
-void CXmlText::close(int node, int end)
+void CXmlText::close(int element, int end)
 {
-    mNodes[node].end = end;
-    mNodes[node].contentEnd = mNodes[node].isEmptyTag ? end : int(mText.lastIndexOf(QLatin1Char('<'), end - 1));
+    SNode& closed = mNodes[std::size_t(element)];
+    closed.end = end;
+    closed.contentEnd = closed.isEmptyTag ? end : int(mText.lastIndexOf(QLatin1Char('<'), end - 1));
 }
 
 const QString& CXmlText::text() const
@@ -290,19 +293,22 @@ std::vector<CXmlElement> CXmlText::all() const
 {
     std::vector<CXmlElement> elements;
     elements.reserve(mNodes.size());
-    for (int node = 0; node < int(mNodes.size()); ++node) {
-        elements.push_back({this, node});
+    for (int element = 0; element < int(mNodes.size()); ++element) {
+        elements.push_back({this, element});
     }
     return elements;
 }
 
-const CXmlText::SAttribute* CXmlText::attribute(int node, QLatin1String name) const
+const CXmlText::SNode& CXmlText::node(int element) const
 {
-    const SNode& found = mNodes[node];
-    for (int i = found.firstAttribute; i < found.firstAttribute + found.attributes; ++i) {
-        if (view(mAttributes[i].name) == name) {
-            return &mAttributes[i];
-        }
-    }
-    return nullptr;
+    return mNodes[std::size_t(element)];
+}
+
+const CXmlText::SAttribute* CXmlText::attribute(int element, QLatin1String name) const
+{
+    const auto begin = mAttributes.begin() + node(element).firstAttribute;
+    const auto end = begin + node(element).attributes;
+    const auto found =
+        std::find_if(begin, end, [&](const SAttribute& attribute) { return view(attribute.name) == name; });
+    return found == end ? nullptr : &*found;
 }

@@ -135,9 +135,10 @@ private:
     };
 
     bool readStructure(SError& error);
-    void close(int node, int end);
+    void close(int element, int end);
     QStringView view(SRange range) const;
-    const SAttribute* attribute(int node, QLatin1String name) const;
+    const SNode& node(int element) const;
+    const SAttribute* attribute(int element, QLatin1String name) const;
 
     QString mText;
     std::vector<SNode> mNodes;

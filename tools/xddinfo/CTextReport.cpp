@@ -60,7 +60,7 @@ QString labelsText(const CGLabels& labels)
         for (const CGLabel& label : labels) {
             texts << (isIn(language, label) ? label.mText : QString());
         }
-        const QString text = joined(texts, QStringLiteral("; "));
+        QString text = joined(texts, QStringLiteral("; "));
         if (!text.isEmpty()) {
             return text;
         }
