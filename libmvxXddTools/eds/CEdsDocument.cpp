@@ -25,7 +25,6 @@ namespace
 constexpr unsigned int CODE_DOMAIN = 2;
 constexpr unsigned int CODE_VAR = 7;
 constexpr unsigned int CODE_ARRAY = 8;
-constexpr unsigned int CODE_RECORD = 9;
 
 constexpr unsigned int STRUCTURE_SUB_INDEX = 255;
 

@@ -7,15 +7,18 @@
 #include <QStringList>
 #include <QTranslator>
 
+#include <memory>
+
 namespace
 {
 // Installs the first catalogue of that name; the application ends it.
 void install(const QString& name, const QStringList& folders)
 {
-    auto* const translator = new QTranslator(QCoreApplication::instance());
+    auto translator = std::make_unique<QTranslator>();
     for (const QString& folder : folders) {
         if (translator->load(QLocale(), name, QStringLiteral("_"), folder)) {
-            QCoreApplication::installTranslator(translator);
+            translator->setParent(QCoreApplication::instance());
+            QCoreApplication::installTranslator(translator.release());
             return;
         }
     }
