@@ -89,7 +89,7 @@ QString tools(const QByteArray& text)
     if (!CXddNormalizer::normalize(normalized, again, changes, error) || again != normalized) {
         qFatal("Normalising a second time changes something");
     }
-    if (eds.mIncomplete > eds.mEntries || CXddChecker::check(text).size() < 0) {
+    if (eds.mIncomplete > eds.mEntries) {
         qFatal("More entries are incomplete than there are");
     }
     return QString();
@@ -417,7 +417,8 @@ void TestHostile::threads()
 {
     QTranslator german;
     if (!german.load(QStringLiteral("mvxIso15745Xml_de"), QStringLiteral(CATALOGUE_FOLDER))) {
-        QSKIP("there is no German catalogue");
+        QTest::qSkip("there is no German catalogue", __FILE__, __LINE__);
+        return;
     }
     QVERIFY(QCoreApplication::installTranslator(&german));
     const QByteArray broken = changed(description(), "\"auto-baudRate\"", "\"1 Kbps\"");
