@@ -367,8 +367,8 @@ void CEdsDocument::variable(const SDictionaryEntry& entry, unsigned int arrayTyp
 
 void CEdsDocument::parameterName(const SDictionaryEntry& entry)
 {
-    const QString name = entry.element.attribute(ATTR_NAME);
-    reportText(mSections.text(latin1("ParameterName"), name), entry.element, &entry);
+    // A reader refuses an entry without the key, but takes an empty name.
+    reportText(mSections.text(latin1("ParameterName"), entry.element.attribute(ATTR_NAME)), entry.element, &entry);
 }
 
 void CEdsDocument::dataType(const SDictionaryEntry& entry, unsigned int type)
@@ -447,7 +447,9 @@ void CEdsDocument::objFlags(const SDictionaryEntry& entry)
 
 void CEdsDocument::plainText(const QString& key, const CXmlElement& element, const QString& text)
 {
-    reportText(mSections.text(key, text), element, nullptr);
+    if (!text.isEmpty()) {
+        reportText(mSections.text(key, text), element, nullptr);
+    }
 }
 
 void CEdsDocument::reportText(const SEdsText& text, const CXmlElement& element, const SDictionaryEntry* entry)

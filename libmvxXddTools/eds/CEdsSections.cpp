@@ -26,7 +26,7 @@ void CEdsSections::key(const QString& name, const QString& value)
 SEdsText CEdsSections::text(const QString& name, const QString& value)
 {
     SEdsText text = edsText(value, MAX_LINE - int(name.size()) - 1);
-    key(name, text.text);
+    mText += name + QLatin1Char('=') + text.text + NEWLINE;
     return text;
 }
 

@@ -15,7 +15,8 @@ public:
     /** A key with a value that is written as it is; nothing for an empty value. */
     void key(const QString& name, const QString& value);
 
-    /** A key with a text, or with the part of it that fits into a line. Returns what had to be changed. */
+    /** A key with a text, which may be empty, or with the part of it that fits into a line. Returns what had to be
+     * changed. */
     SEdsText text(const QString& name, const QString& value);
 
     QByteArray bytes() const;

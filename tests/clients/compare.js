@@ -60,8 +60,9 @@ function accessOf(entry) {
 function expected(entry, array) {
     const type = entry.dataType || array || DOMAIN_TYPE;
     const limit = (text) => {
-        const value = meaning(text, type);
-        return value === '' || Number(value) === 0 ? undefined : parseInt(value); // It takes 0 for no limit
+        // It takes 0 for no limit, and no more of a real number than parseInt does.
+        const isReal = type === 8 || type === 17;
+        return parseInt(isReal ? text : meaning(text, type)) || undefined;
     };
     return {
         name: entry.name,
