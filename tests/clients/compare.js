@@ -41,6 +41,9 @@ function meaning(text, type) {
     const number = plain.replace(/\s/g, '').replace(/\+?\$NODEID\+?/i, '') || '0';
     const negative = number.startsWith('-');
     const digits = number.replace(/^[+-]/, '');
+    if (!/^(0x[0-9a-f]+|[0-9]+)$/i.test(digits)) {
+        return plain; // No number
+    }
     let value = BigInt(/^0x/i.test(digits) ? digits : digits.replace(/^0+(?=.)/, ''));
     const bits = SIGNED_BITS[type];
     if (bits && /^0x/i.test(digits)) {
