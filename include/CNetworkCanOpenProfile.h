@@ -18,8 +18,8 @@
  * The file fields come from attributes of "ProfileBody" and mean the same as in CDeviceProfile. Counts and objects come
  * from "CANopenObjectList" and the identity from "identity", both in "ApplicationLayers"; the bit rates come from
  * "baudRate" in "TransportLayers"/"PhysicalLayer". Nothing in the identity is required: a missing element leaves
- * its field as it was. A malformed one may leave a part: a text without "readOnly" its value but not its flag, a list of
- * labels those in front of the first malformed one.
+ * its field as it was. A malformed one may leave a part: a text without "readOnly" its value but not its flag, a list
+ * of labels those in front of the first malformed one.
  */
 class MVXISO15745XML_EXPORT CNetworkCanOpenProfile
 {
