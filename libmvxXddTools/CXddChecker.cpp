@@ -2,6 +2,7 @@
 
 #include "canopen/CDescription.h"
 #include "canopen/CDictionary.h"
+#include "canopen/Pdos.h"
 #include "check/CFindings.h"
 #include "check/CheckRules.h"
 #include "text/CEncodedText.h"
@@ -36,11 +37,12 @@ QList<CXddFinding> CXddChecker::check(const QByteArray& description)
         return findings.inOrder();
     }
     const CDictionary dictionary(read);
+    const std::vector<SPdoMapping> mappings = pdoMappings(dictionary);
     for (const CheckRules* const group : ruleGroups()) {
         for (const SCheckRule& rule : *group) {
             if (rule.find != nullptr) {
                 findings.setRule(rule);
-                rule.find({read, dictionary}, findings);
+                rule.find({read, dictionary, mappings}, findings);
             }
         }
     }

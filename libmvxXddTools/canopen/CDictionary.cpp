@@ -3,6 +3,7 @@
 #include "CCanOpenNames.h"
 #include "CXmlValue.h"
 #include "NIso15745Tags.h"
+#include "canopen/ObjectCodes.h"
 #include "canopen/ProcessNames.h"
 
 #include <QCoreApplication>
@@ -16,10 +17,6 @@ namespace
 {
 constexpr int HEXADECIMAL = 16;
 constexpr int DECIMAL = 10;
-
-// Object codes of CiA 301.
-constexpr unsigned int ARRAY = 8;
-constexpr unsigned int RECORD = 9;
 
 quint64 keyOf(unsigned int index, unsigned int subIndex)
 {
@@ -93,7 +90,12 @@ bool SDictionaryEntry::isVariable() const
 
 bool SDictionaryEntry::isArrayOrRecord() const
 {
-    return !isSubObject && (objectType == ARRAY || objectType == RECORD);
+    return !isSubObject && (objectType == CODE_ARRAY || objectType == CODE_RECORD);
+}
+
+bool SDictionaryEntry::isMappable() const
+{
+    return !mapping.isEmpty() && mapping != VAL_OBJ_E_MAP_NO;
 }
 
 bool SDictionaryEntry::isReadable() const

@@ -43,6 +43,8 @@ struct SDictionaryEntry
     bool isVariable() const;
     /** True for an object of the code ARRAY or RECORD. */
     bool isArrayOrRecord() const;
+    /** True for what a PDO can map. */
+    bool isMappable() const;
     bool isReadable() const; ///< ro, rw or const
     bool isWritable() const; ///< wo or rw
     /** "0x1018" or "0x1018 sub-index 1". */

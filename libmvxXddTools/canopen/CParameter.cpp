@@ -2,6 +2,7 @@
 
 #include "NIso15745Tags.h"
 #include "canopen/CDescription.h"
+#include "canopen/ObjectCodes.h"
 #include "canopen/ProcessNames.h"
 
 using namespace NIso15745Tags;
@@ -9,9 +10,6 @@ using namespace NProcessNames;
 
 namespace
 {
-// Object code of an object that is a block of data, CiA 301.
-constexpr int OBJECT_CODE_DOMAIN = 2;
-
 QString accessTypeOf(const QString& access)
 {
     if (access == QLatin1String("read")) {
@@ -46,7 +44,7 @@ CXmlElement CParameter::element() const
 
 QString CParameter::dataType(const QString& objectType) const
 {
-    return isNull() ? QString() : mDescription->simpleTypeOf(mElement, objectType.toInt() == OBJECT_CODE_DOMAIN);
+    return isNull() ? QString() : mDescription->simpleTypeOf(mElement, objectType.toUInt() == CODE_DOMAIN);
 }
 
 // Without the attribute a value can be read; arrays and structures have no access of their own.

@@ -185,11 +185,6 @@ bool CValue::isInteger() const
     return mKind == EKind::Integer;
 }
 
-bool CValue::isNumber() const
-{
-    return mKind == EKind::Integer || (mKind == EKind::Real && !mIsPattern);
-}
-
 bool CValue::usesNodeId() const
 {
     return mUsesNodeId;
@@ -229,9 +224,10 @@ bool CValue::fits(unsigned int dataType) const
 bool CValue::isBelow(const CValue& other) const
 {
     if (mKind == EKind::Real) {
-        return mReal < other.mReal;
+        return !mIsPattern && !other.mIsPattern && mReal < other.mReal;
     }
-    return at(MIN_NODE_ID) < other.at(MIN_NODE_ID) || at(MAX_NODE_ID) < other.at(MAX_NODE_ID);
+    return mKind == EKind::Integer
+           && (at(MIN_NODE_ID) < other.at(MIN_NODE_ID) || at(MAX_NODE_ID) < other.at(MAX_NODE_ID));
 }
 
 bool CValue::operator==(const CValue& other) const

@@ -48,8 +48,6 @@ public:
 
     /** True for a whole number, a boolean included. */
     bool isInteger() const;
-    /** True for a whole number or a real number, which have an order. */
-    bool isNumber() const;
     /** True when the value depends on the node-ID. */
     bool usesNodeId() const;
     /** True for "N+$NODEID", the other way round than the standard writes it. */
@@ -65,7 +63,7 @@ public:
     /** True when the value lies in the range of its type for every node-ID. */
     bool fits(unsigned int dataType) const;
 
-    /** True when the value is below another one of the same type, for some node-ID. */
+    /** True when the number is below another one of the same type, for some node-ID. What is no number has no order. */
     bool isBelow(const CValue& other) const;
     /** True for two texts of the same value. */
     bool operator==(const CValue& other) const;

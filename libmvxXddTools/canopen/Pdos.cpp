@@ -1,6 +1,11 @@
 #include "canopen/Pdos.h"
 
+#include "NIso15745Tags.h"
+#include "canopen/ObjectCodes.h"
+
 #include <algorithm>
+
+using namespace NIso15745Tags;
 
 namespace
 {
@@ -35,6 +40,20 @@ std::optional<EPdoDirection> communicationDirection(unsigned int index)
 std::optional<EPdoDirection> mappingDirection(unsigned int index)
 {
     return directionFrom(index, MAPPING_OFFSET);
+}
+
+std::optional<EPdoDirection> onlyDirection(const SDictionaryEntry& entry)
+{
+    if (entry.mapping == VAL_OBJ_MAP_RPDO) {
+        return EPdoDirection::Receive;
+    }
+    return entry.mapping == VAL_OBJ_MAP_TPDO ? std::optional<EPdoDirection>(EPdoDirection::Transmit) : std::nullopt;
+}
+
+bool forbidsDirection(const SDictionaryEntry& entry, EPdoDirection direction)
+{
+    return direction == EPdoDirection::Receive ? entry.isReadable() && !entry.isWritable()
+                                               : entry.isWritable() && !entry.isReadable();
 }
 
 bool SMappedObject::mapsNothing() const
@@ -80,7 +99,7 @@ std::vector<SPdoMapping> pdoMappings(const CDictionary& dictionary)
                 if (count && !count->isNegative() && count->magnitude() <= 255) {
                     mapping.active = static_cast<unsigned int>(count->magnitude());
                 }
-            } else if (entry->subIndex && *entry->subIndex > 0 && *entry->subIndex < 255) {
+            } else if (entry->subIndex && *entry->subIndex > 0 && *entry->subIndex < STRUCTURE_SUB_INDEX) {
                 mapping.entries.push_back(entry);
                 if (const std::optional<SMappedObject> mapped = mappedBy(*entry)) {
                     mapping.mapped.push_back(*mapped);

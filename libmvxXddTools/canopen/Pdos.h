@@ -32,6 +32,12 @@ std::optional<EPdoDirection> communicationDirection(unsigned int index);
 /** The direction of the PDO whose mapping has that index. */
 std::optional<EPdoDirection> mappingDirection(unsigned int index);
 
+/** The one direction in which an entry can be mapped by its "PDOmapping"; nothing when that names none or both. */
+std::optional<EPdoDirection> onlyDirection(const SDictionaryEntry& entry);
+
+/** True when the access of an entry forbids a direction: an RPDO writes an entry, a TPDO reads it. */
+bool forbidsDirection(const SDictionaryEntry& entry, EPdoDirection direction);
+
 /** An entry of a mapping. */
 struct SMappedObject
 {

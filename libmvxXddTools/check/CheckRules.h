@@ -4,6 +4,7 @@
 #include "CXddFinding.h"
 #include "canopen/CDescription.h"
 #include "canopen/CDictionary.h"
+#include "canopen/Pdos.h"
 
 #include <vector>
 
@@ -14,6 +15,7 @@ struct SChecked
 {
     const CDescription& description;
     const CDictionary& dictionary;
+    const std::vector<SPdoMapping>& mappings; ///< Every PDO mapping of the dictionary
 };
 
 /** One rule of the checker. Its texts are in English, to be translated in the context "CFindings". */

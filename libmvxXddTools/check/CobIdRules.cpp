@@ -2,8 +2,10 @@
 #include "canopen/Pdos.h"
 #include "check/CFindings.h"
 #include "check/CheckRules.h"
+#include "check/Walks.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -103,16 +105,16 @@ std::optional<SProducer> producer(const SDictionaryEntry* entry)
 }
 
 // The TPDOs that map something.
-QHash<unsigned int, bool> usedTransmitPdos(const CDictionary& dictionary)
+QSet<unsigned int> usedTransmitPdos(const SChecked& checked)
 {
-    QHash<unsigned int, bool> used;
-    for (const SPdoMapping& mapping : pdoMappings(dictionary)) {
+    QSet<unsigned int> used;
+    for (const SPdoMapping& mapping : checked.mappings) {
         const bool mapsSomething =
             std::any_of(mapping.mapped.begin(), mapping.mapped.end(), [](const SMappedObject& mapped) {
                 return !mapped.mapsNothing();
             });
         if (mapping.direction == EPdoDirection::Transmit && mapsSomething) {
-            used.insert(*mapping.object->index - MAPPING_OFFSET, true);
+            used.insert(*mapping.object->index - MAPPING_OFFSET);
         }
     }
     return used;
@@ -120,7 +122,7 @@ QHash<unsigned int, bool> usedTransmitPdos(const CDictionary& dictionary)
 
 void cobIdClash(const SChecked& checked, CFindings& findings)
 {
-    const QHash<unsigned int, bool> used = usedTransmitPdos(checked.dictionary);
+    const QSet<unsigned int> used = usedTransmitPdos(checked);
     const SDictionaryEntry* const sync = checked.dictionary.variable(SYNC, 0);
     QHash<quint64, const SDictionaryEntry*> first;
     const std::optional<SProducer> syncProducer = producer(sync);
@@ -129,7 +131,7 @@ void cobIdClash(const SChecked& checked, CFindings& findings)
     }
     for (const SDictionaryEntry& entry : checked.dictionary.entries()) {
         const unsigned int index = entry.index.value_or(0);
-        const bool isServer = index >= FIRST_SDO_SERVER && index <= LAST_SDO_SERVER && entry.subIndex == 2U;
+        const bool isServer = isBetween(index, FIRST_SDO_SERVER, LAST_SDO_SERVER) && entry.subIndex == 2U;
         const bool isPdo = entry.subIndex == 1U && used.contains(index);
         const bool isEmergency = index == EMCY && !entry.isSubObject;
         const std::optional<SProducer> sender = isServer || isPdo || isEmergency ? producer(&entry) : std::nullopt;
@@ -139,9 +141,7 @@ void cobIdClash(const SChecked& checked, CFindings& findings)
         if (const SDictionaryEntry* const other = first.value(sender->key)) {
             findings.add(
                 entry, CFindings::tr("COB-ID %1 is also that of %2 (line %3)")
-                           .arg(
-                               CFindings::quoted(entry.defaultValue, entry.element), other->name(),
-                               QString::number(other->element.line())));
+                           .arg(CFindings::quoted(entry.defaultValue, entry.element), other->name(), lineOf(*other)));
         } else {
             first.insert(sender->key, &entry);
         }

@@ -53,7 +53,7 @@ void granularity(const SChecked& checked, CFindings& findings)
 {
     int writable = 0;
     int fixed = 0;
-    for (const SPdoMapping& mapping : pdoMappings(checked.dictionary)) {
+    for (const SPdoMapping& mapping : checked.mappings) {
         if (mapping.count != nullptr) {
             ++(mapping.count->isWritable() ? writable : fixed);
         }

@@ -1,6 +1,7 @@
 #include "CCanOpenNames.h"
 #include "CXmlValue.h"
 #include "NIso15745Tags.h"
+#include "canopen/ObjectCodes.h"
 #include "canopen/Pdos.h"
 #include "check/CFindings.h"
 #include "check/CheckRules.h"
@@ -15,8 +16,17 @@ using namespace NIso15745Tags;
 
 namespace
 {
-// The highest sub-index that counts; 255 holds the structure of the object.
-constexpr unsigned int STRUCTURE_SUB_INDEX = 255;
+// True for the code of an object without sub-objects.
+bool isSimple(const SDictionaryEntry& object)
+{
+    return contains(std::array{CODE_DOMAIN, CODE_DEFTYPE, CODE_VAR}, object.objectType);
+}
+
+// True for the code of an object with sub-objects.
+bool isComposed(const SDictionaryEntry& object)
+{
+    return contains(std::array{CODE_DEFSTRUCT, CODE_ARRAY, CODE_RECORD}, object.objectType);
+}
 
 void duplicateIndex(const SChecked& checked, CFindings& findings)
 {
@@ -61,8 +71,8 @@ void objectType(const SChecked& checked, CFindings& findings)
     for (const SDictionaryEntry& entry : checked.dictionary.entries()) {
         const QString text = entry.element.attribute(ATTR_OBJECT_TYPE);
         const bool isReadable = CXmlValue::toNumber(text, 10, 255).has_value();
-        const bool isKnown = entry.isSubObject ? contains(std::array{2U, 7U}, entry.objectType)
-                                               : contains(std::array{2U, 5U, 6U, 7U, 8U, 9U}, entry.objectType);
+        const bool isSingle = entry.objectType == CODE_DOMAIN || entry.objectType == CODE_VAR;
+        const bool isKnown = entry.isSubObject ? isSingle : isSimple(entry) || isComposed(entry);
         if (isReadable && !isKnown) {
             findings.add(
                 entry, entry.isSubObject ? CFindings::tr("objectType %1 is none of a sub-object (2, 7)").arg(text)
@@ -74,7 +84,7 @@ void objectType(const SChecked& checked, CFindings& findings)
 void missingSubObjects(const SChecked& checked, CFindings& findings)
 {
     forObjects(checked, [&](const SDictionaryEntry& object) {
-        if (contains(std::array{6U, 8U, 9U}, object.objectType) && object.subObjects == 0) {
+        if (isComposed(object) && object.subObjects == 0) {
             findings.add(
                 object, CFindings::tr("%1 without sub-objects").arg(CCanOpenNames::objectCode(object.objectType)));
         }
@@ -84,7 +94,7 @@ void missingSubObjects(const SChecked& checked, CFindings& findings)
 void subObjectsOfVariable(const SChecked& checked, CFindings& findings)
 {
     forObjects(checked, [&](const SDictionaryEntry& object) {
-        if (contains(std::array{2U, 5U, 7U}, object.objectType) && object.subObjects > 0) {
+        if (isSimple(object) && object.subObjects > 0) {
             findings.add(
                 object, CFindings::tr("%1 with %2 sub-objects")
                             .arg(CCanOpenNames::objectCode(object.objectType), QString::number(object.subObjects)));
@@ -98,7 +108,7 @@ void missingSubIndex0(const SChecked& checked, CFindings& findings)
         const auto subObjects = checked.dictionary.subObjects(object);
         const bool hasFirst = std::any_of(
             subObjects.begin(), subObjects.end(), [](const SDictionaryEntry* entry) { return entry->subIndex == 0U; });
-        if (contains(std::array{6U, 8U, 9U}, object.objectType) && object.subObjects > 0 && !hasFirst) {
+        if (isComposed(object) && object.subObjects > 0 && !hasFirst) {
             findings.add(
                 object, CFindings::tr("%1 without sub-index 0").arg(CCanOpenNames::objectCode(object.objectType)));
         }

@@ -4,6 +4,7 @@
 #include "canopen/Pdos.h"
 #include "check/CFindings.h"
 #include "check/CheckRules.h"
+#include "check/Walks.h"
 
 #include <algorithm>
 
@@ -30,7 +31,7 @@ const SDictionaryEntry* target(const SChecked& checked, const SMappedObject& map
 // Calls for every mapping entry that maps something.
 template <typename Look> void forMapped(const SChecked& checked, Look look)
 {
-    for (const SPdoMapping& mapping : pdoMappings(checked.dictionary)) {
+    for (const SPdoMapping& mapping : checked.mappings) {
         for (const SMappedObject& mapped : mapping.mapped) {
             if (!mapped.mapsNothing()) {
                 look(mapping, mapped);
@@ -41,12 +42,11 @@ template <typename Look> void forMapped(const SChecked& checked, Look look)
 
 void pdoWithoutPartner(const SChecked& checked, CFindings& findings)
 {
-    for (const std::size_t number : checked.dictionary.objects()) {
-        const SDictionaryEntry& object = checked.dictionary.entries()[number];
+    forObjects(checked, [&](const SDictionaryEntry& object) {
         const unsigned int index = object.index.value_or(0);
         const bool isMapping = mappingDirection(index).has_value();
         if (!isMapping && !communicationDirection(index)) {
-            continue;
+            return;
         }
         const unsigned int partner = isMapping ? index - MAPPING_OFFSET : index + MAPPING_OFFSET;
         if (checked.dictionary.object(partner) == nullptr) {
@@ -55,7 +55,7 @@ void pdoWithoutPartner(const SChecked& checked, CFindings& findings)
                                    : CFindings::tr("the PDO has no mapping %1"))
                             .arg(CCanOpenNames::index(partner)));
         }
-    }
+    });
 }
 
 void mappedObjectMissing(const SChecked& checked, CFindings& findings)
@@ -92,15 +92,15 @@ void mappedObjectNotMappable(const SChecked& checked, CFindings& findings)
         const SDictionaryEntry* const object = target(checked, mapped);
         if (object != nullptr && object->mapping == VAL_OBJ_E_MAP_NO) {
             findings.add(
-                *mapped.entry, CFindings::tr("it maps %1 (line %2), whose PDOmapping is \"no\"")
-                                   .arg(nameOf(mapped), QString::number(object->element.line())));
+                *mapped.entry,
+                CFindings::tr("it maps %1 (line %2), whose PDOmapping is \"no\"").arg(nameOf(mapped), lineOf(*object)));
         }
     });
 }
 
 void pdoTooLong(const SChecked& checked, CFindings& findings)
 {
-    for (const SPdoMapping& mapping : pdoMappings(checked.dictionary)) {
+    for (const SPdoMapping& mapping : checked.mappings) {
         unsigned int bits = 0;
         for (const SMappedObject& mapped : mapping.mapped) {
             const bool isActive = !mapping.active || *mapped.entry->subIndex <= *mapping.active;
@@ -116,7 +116,7 @@ void pdoTooLong(const SChecked& checked, CFindings& findings)
 
 void mappingCount(const SChecked& checked, CFindings& findings)
 {
-    for (const SPdoMapping& mapping : pdoMappings(checked.dictionary)) {
+    for (const SPdoMapping& mapping : checked.mappings) {
         if (!mapping.active || mapping.isMultiplexed()) {
             continue;
         }
@@ -138,7 +138,7 @@ void mappingCount(const SChecked& checked, CFindings& findings)
 
 void mappingGap(const SChecked& checked, CFindings& findings)
 {
-    for (const SPdoMapping& mapping : pdoMappings(checked.dictionary)) {
+    for (const SPdoMapping& mapping : checked.mappings) {
         std::vector<bool> isThere(mapping.highestSubIndex() + 1, false);
         for (const SDictionaryEntry* const entry : mapping.entries) {
             isThere[*entry->subIndex] = true;
@@ -156,27 +156,22 @@ void mappingGap(const SChecked& checked, CFindings& findings)
 // Why an object cannot be in a PDO of a direction; nothing when it can.
 QString obstacle(EPdoDirection direction, const SDictionaryEntry& object)
 {
-    const bool isReadOnly = object.access.text == VAL_OBJ_ACCESS_RO || object.access.text == VAL_OBJ_ACCESS_CONST;
-    const bool isWriteOnly = object.access.text == VAL_OBJ_ACCESS_WO;
-    if (direction == EPdoDirection::Receive ? isReadOnly : isWriteOnly) {
+    if (forbidsDirection(object, direction)) {
         return CFindings::tr("access \"%1\"").arg(object.access.text);
     }
-    const QLatin1String other = direction == EPdoDirection::Receive ? VAL_OBJ_MAP_TPDO : VAL_OBJ_MAP_RPDO;
-    return object.mapping == other ? CFindings::tr("PDOmapping \"%1\"").arg(other) : QString();
+    const bool isOther = onlyDirection(object).value_or(direction) != direction;
+    return isOther ? CFindings::tr("PDOmapping \"%1\"").arg(object.mapping) : QString();
 }
 
 void pdoDirection(const SChecked& checked, CFindings& findings)
 {
-    for (const SDictionaryEntry& entry : checked.dictionary.entries()) {
-        const bool isReceived = entry.mapping == VAL_OBJ_MAP_RPDO;
-        if (!entry.isVariable() || (!isReceived && entry.mapping != VAL_OBJ_MAP_TPDO)) {
-            continue;
-        }
-        const QString reason = obstacle(isReceived ? EPdoDirection::Receive : EPdoDirection::Transmit, entry);
+    forVariables(checked, [&](const SDictionaryEntry& entry) {
+        const std::optional<EPdoDirection> direction = onlyDirection(entry);
+        const QString reason = direction ? obstacle(*direction, entry) : QString();
         if (!reason.isEmpty()) {
             findings.add(entry, CFindings::tr("PDOmapping \"%1\" does not go with %2").arg(entry.mapping, reason));
         }
-    }
+    });
     forMapped(checked, [&](const SPdoMapping& mapping, const SMappedObject& mapped) {
         const SDictionaryEntry* const object = target(checked, mapped);
         const QString reason = object == nullptr ? QString() : obstacle(mapping.direction, *object);
@@ -185,7 +180,7 @@ void pdoDirection(const SChecked& checked, CFindings& findings)
                 *mapped.entry,
                 (mapping.direction == EPdoDirection::Receive ? CFindings::tr("an RPDO maps %1 (line %2) with %3")
                                                              : CFindings::tr("a TPDO maps %1 (line %2) with %3"))
-                    .arg(nameOf(mapped), QString::number(object->element.line()), reason));
+                    .arg(nameOf(mapped), lineOf(*object), reason));
         }
     });
 }

@@ -1,6 +1,7 @@
 #include "CCanOpenNames.h"
 #include "NIso15745Tags.h"
 #include "canopen/DataTypes.h"
+#include "canopen/ObjectCodes.h"
 #include "canopen/Pdos.h"
 #include "canopen/ProcessNames.h"
 #include "check/CFindings.h"
@@ -14,9 +15,6 @@ using namespace NProcessNames;
 
 namespace
 {
-// Object code of a variable, CiA 301.
-constexpr unsigned int CODE_VAR = 7;
-
 void subIndex0Type(const SChecked& checked, CFindings& findings)
 {
     for (const SDictionaryEntry& entry : checked.dictionary.entries()) {
@@ -67,8 +65,7 @@ void missingAccessType(const SChecked& checked, CFindings& findings)
 void noAccess(const SChecked& checked, CFindings& findings)
 {
     forVariables(checked, [&](const SDictionaryEntry& entry) {
-        const bool isMappable = !entry.mapping.isEmpty() && entry.mapping != VAL_OBJ_E_MAP_NO;
-        const bool isOnlyMapped = isMappable && entry.index.value_or(0) >= 0x2000;
+        const bool isOnlyMapped = entry.isMappable() && entry.index.value_or(0) >= 0x2000;
         if (entry.access.text == VAL_NO_ACCESS && !isOnlyMapped) {
             findings.add(
                 entry, CFindings::tr("it can be neither read nor written: access is %1")
@@ -201,7 +198,7 @@ unsigned int standardType(unsigned int index, unsigned int subIndex)
     if (index == 0x1029) {
         return TYPE_UNSIGNED8;
     }
-    if (isBetween(index, 0x1400, 0x15FF) || isBetween(index, 0x1800, 0x19FF)) {
+    if (communicationDirection(index)) {
         return subIndex < pdoParameters.size() ? pdoParameters[subIndex] : 0;
     }
     if (isBetween(index, 0x1200, 0x12FF)) {

@@ -4,6 +4,8 @@
 #include "check/CFindings.h"
 #include "check/CheckRules.h"
 
+#include <array>
+
 using namespace NIso15745Tags;
 
 namespace
@@ -16,25 +18,42 @@ struct SNamedValue
     std::optional<CValue> value; // Nothing when it is not given or not readable
 };
 
-std::vector<SNamedValue> valuesOf(const SDictionaryEntry& entry)
+// The values and limits of an entry.
+struct SValues
 {
-    const auto read = [&](const SStated& stated) {
-        return stated.isGiven() ? CValue::read(stated.text, entry.dataType) : std::nullopt;
+    SNamedValue defaultValue;
+    SNamedValue actualValue;
+    SNamedValue lowLimit;
+    SNamedValue highLimit;
+
+    std::array<const SNamedValue*, 4> all() const
+    {
+        return {&defaultValue, &actualValue, &lowLimit, &highLimit};
+    }
+};
+
+SValues valuesOf(const SDictionaryEntry& entry)
+{
+    const auto named = [&](QLatin1String name, const SStated& stated) {
+        return SNamedValue{name, &stated, stated.isGiven() ? CValue::read(stated.text, entry.dataType) : std::nullopt};
     };
     return {
-        {ATTR_DEFAULT_VALUE, &entry.defaultValue, read(entry.defaultValue)},
-        {ATTR_ACTUAL_VALUE, &entry.actualValue, read(entry.actualValue)},
-        {ATTR_LOW_LIMIT, &entry.lowLimit, read(entry.lowLimit)},
-        {ATTR_HIGH_LIMIT, &entry.highLimit, read(entry.highLimit)},
-    };
+        named(ATTR_DEFAULT_VALUE, entry.defaultValue), named(ATTR_ACTUAL_VALUE, entry.actualValue),
+        named(ATTR_LOW_LIMIT, entry.lowLimit), named(ATTR_HIGH_LIMIT, entry.highLimit)};
 }
 
-// Calls for every entry of a type whose values are known.
+// True for two numbers, the first of which is below the second.
+bool isBelow(const SNamedValue& low, const SNamedValue& high)
+{
+    return low.value && high.value && low.value->isBelow(*high.value);
+}
+
+// Calls for every entry of a type whose values are known, with its values.
 template <typename Look> void forTyped(const SChecked& checked, Look look)
 {
     for (const SDictionaryEntry& entry : checked.dictionary.entries()) {
         if (entry.isVariable() && valueKind(entry.dataType) != EValueKind::None) {
-            look(entry);
+            look(entry, valuesOf(entry));
         }
     }
 }
@@ -46,12 +65,12 @@ QString shown(const SDictionaryEntry& entry, const SNamedValue& value)
 
 void badValue(const SChecked& checked, CFindings& findings)
 {
-    forTyped(checked, [&](const SDictionaryEntry& entry) {
-        for (const SNamedValue& value : valuesOf(entry)) {
-            if (value.stated->isGiven() && !value.value) {
+    forTyped(checked, [&](const SDictionaryEntry& entry, const SValues& values) {
+        for (const SNamedValue* const value : values.all()) {
+            if (value->stated->isGiven() && !value->value) {
                 findings.add(
                     entry,
-                    CFindings::tr("%1 is no %2").arg(shown(entry, value), CCanOpenNames::dataType(entry.dataType)));
+                    CFindings::tr("%1 is no %2").arg(shown(entry, *value), CCanOpenNames::dataType(entry.dataType)));
             }
         }
     });
@@ -59,12 +78,12 @@ void badValue(const SChecked& checked, CFindings& findings)
 
 void valueOutOfRange(const SChecked& checked, CFindings& findings)
 {
-    forTyped(checked, [&](const SDictionaryEntry& entry) {
-        for (const SNamedValue& value : valuesOf(entry)) {
-            if (value.value && !value.value->fits(entry.dataType)) {
+    forTyped(checked, [&](const SDictionaryEntry& entry, const SValues& values) {
+        for (const SNamedValue* const value : values.all()) {
+            if (value->value && !value->value->fits(entry.dataType)) {
                 findings.add(
                     entry, CFindings::tr("%1 is out of the range of %2")
-                               .arg(shown(entry, value), CCanOpenNames::dataType(entry.dataType)));
+                               .arg(shown(entry, *value), CCanOpenNames::dataType(entry.dataType)));
             }
         }
     });
@@ -72,44 +91,37 @@ void valueOutOfRange(const SChecked& checked, CFindings& findings)
 
 void limitsReversed(const SChecked& checked, CFindings& findings)
 {
-    forTyped(checked, [&](const SDictionaryEntry& entry) {
-        const std::vector<SNamedValue> values = valuesOf(entry);
-        const SNamedValue& low = values[2];
-        const SNamedValue& high = values[3];
-        if (low.value && high.value && high.value->isNumber() && low.value->isNumber()
-            && high.value->isBelow(*low.value)) {
-            findings.add(entry, CFindings::tr("%1 is above %2").arg(shown(entry, low), shown(entry, high)));
+    forTyped(checked, [&](const SDictionaryEntry& entry, const SValues& values) {
+        if (isBelow(values.highLimit, values.lowLimit)) {
+            findings.add(
+                entry,
+                CFindings::tr("%1 is above %2").arg(shown(entry, values.lowLimit), shown(entry, values.highLimit)));
         }
     });
 }
 
 void valueOutsideLimits(const SChecked& checked, CFindings& findings)
 {
-    forTyped(checked, [&](const SDictionaryEntry& entry) {
-        const std::vector<SNamedValue> values = valuesOf(entry);
-        const auto compare = [&](const SNamedValue& value, const SNamedValue& limit, bool isLow) {
-            if (!value.value || !limit.value || !value.value->isNumber() || !limit.value->isNumber()) {
-                return;
-            }
-            if (isLow ? value.value->isBelow(*limit.value) : limit.value->isBelow(*value.value)) {
+    forTyped(checked, [&](const SDictionaryEntry& entry, const SValues& values) {
+        for (const SNamedValue* const value : {&values.defaultValue, &values.actualValue}) {
+            if (isBelow(*value, values.lowLimit)) {
                 findings.add(
-                    entry, (isLow ? CFindings::tr("%1 is below %2") : CFindings::tr("%1 is above %2"))
-                               .arg(shown(entry, value), shown(entry, limit)));
+                    entry, CFindings::tr("%1 is below %2").arg(shown(entry, *value), shown(entry, values.lowLimit)));
             }
-        };
-        for (const SNamedValue& value : {values[0], values[1]}) {
-            compare(value, values[2], true);
-            compare(value, values[3], false);
+            if (isBelow(values.highLimit, *value)) {
+                findings.add(
+                    entry, CFindings::tr("%1 is above %2").arg(shown(entry, *value), shown(entry, values.highLimit)));
+            }
         }
     });
 }
 
 void nodeIdNotFirst(const SChecked& checked, CFindings& findings)
 {
-    forTyped(checked, [&](const SDictionaryEntry& entry) {
-        for (const SNamedValue& value : valuesOf(entry)) {
-            if (value.value && value.value->isNodeIdLast()) {
-                findings.add(entry, CFindings::tr("%1 does not begin with $NODEID").arg(shown(entry, value)));
+    forTyped(checked, [&](const SDictionaryEntry& entry, const SValues& values) {
+        for (const SNamedValue* const value : values.all()) {
+            if (value->value && value->value->isNodeIdLast()) {
+                findings.add(entry, CFindings::tr("%1 does not begin with $NODEID").arg(shown(entry, *value)));
             }
         }
     });

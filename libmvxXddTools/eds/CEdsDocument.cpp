@@ -5,6 +5,7 @@
 #include "NIso15745Tags.h"
 #include "XmlValues.h"
 #include "canopen/DataTypes.h"
+#include "canopen/ObjectCodes.h"
 #include "canopen/Pdos.h"
 #include "canopen/ProcessNames.h"
 
@@ -21,13 +22,6 @@ using namespace NProcessNames;
 
 namespace
 {
-// Object codes of CiA 301.
-constexpr unsigned int CODE_DOMAIN = 2;
-constexpr unsigned int CODE_VAR = 7;
-constexpr unsigned int CODE_ARRAY = 8;
-
-constexpr unsigned int STRUCTURE_SUB_INDEX = 255;
-
 const QLatin1String VERSION_OF_THE_FORM("4.0");
 const QLatin1String READ_WRITE_MAPPED_TO_SEND("rwr");
 const QLatin1String READ_WRITE_MAPPED_TO_RECEIVE("rww");
@@ -57,19 +51,6 @@ QString flag(const CXmlElement& element, const char* attribute)
     }
     const std::optional<unsigned int> number = CXmlValue::toNumber(text, 10);
     return number ? QString::number(*number) : QString();
-}
-
-// Why a variable of an access cannot be in the PDOs that its mapping names; nothing when it can.
-bool isOneWayConflict(const SDictionaryEntry& entry)
-{
-    const QString& access = entry.access.text;
-    return (entry.mapping == VAL_OBJ_MAP_RPDO && (access == VAL_OBJ_ACCESS_RO || access == VAL_OBJ_ACCESS_CONST))
-           || (entry.mapping == VAL_OBJ_MAP_TPDO && access == VAL_OBJ_ACCESS_WO);
-}
-
-bool isMappable(const SDictionaryEntry& entry)
-{
-    return !entry.mapping.isEmpty() && entry.mapping != VAL_OBJ_E_MAP_NO;
 }
 
 CXmlElement firstOrNull(const std::vector<CXmlElement>& elements)
@@ -331,7 +312,7 @@ void CEdsDocument::composed(const SObject& object)
     mSections.key(latin1("SubNumber"), QString::number(object.subObjects.size()));
     objFlags(entry);
     const bool hasMore = entry.dataType != 0 || !entry.element.attribute(ATTR_ACCESS_TYPE).isEmpty()
-                         || isMappable(entry) || entry.defaultValue.isGiven() || entry.lowLimit.isGiven()
+                         || entry.isMappable() || entry.defaultValue.isGiven() || entry.lowLimit.isGiven()
                          || entry.highLimit.isGiven();
     if (hasMore) {
         mReport.add(
@@ -350,8 +331,8 @@ void CEdsDocument::variable(const SDictionaryEntry& entry, unsigned int arrayTyp
     dataType(entry, type);
     access(entry);
     if (!isBlock) {
-        mSections.key(latin1("PDOMapping"), isMappable(entry) ? latin1("1") : latin1("0"));
-    } else if (isMappable(entry) || entry.lowLimit.isGiven() || entry.highLimit.isGiven()) {
+        mSections.key(latin1("PDOMapping"), entry.isMappable() ? latin1("1") : latin1("0"));
+    } else if (entry.isMappable() || entry.lowLimit.isGiven() || entry.highLimit.isGiven()) {
         mReport.add(entry, "domain", CEdsReport::tr("mapping and limits of a DOMAIN are left out"));
     }
     value(entry, latin1("DefaultValue"), entry.defaultValue, type);
@@ -384,19 +365,17 @@ void CEdsDocument::dataType(const SDictionaryEntry& entry, unsigned int type)
 
 void CEdsDocument::access(const SDictionaryEntry& entry)
 {
-    const bool isReceived = entry.mapping == VAL_OBJ_MAP_RPDO;
+    const std::optional<EPdoDirection> direction = onlyDirection(entry);
     QString access = entry.access.text;
     if (!entry.isReadable() && !entry.isWritable()) {
-        access = isReceived ? VAL_OBJ_ACCESS_WO : VAL_OBJ_ACCESS_RO;
+        access = direction == EPdoDirection::Receive ? VAL_OBJ_ACCESS_WO : VAL_OBJ_ACCESS_RO;
         mReport.add(entry, "access", CEdsReport::tr("it has no access and is written as %1").arg(access));
-    } else if (isOneWayConflict(entry)) {
+    } else if (direction && forbidsDirection(entry, *direction)) {
         mReport.add(
             entry, "direction",
             CEdsReport::tr("the form cannot say %1 together with PDOmapping %2").arg(access, entry.mapping));
-    } else if (access == VAL_OBJ_ACCESS_RW && isReceived) {
-        access = READ_WRITE_MAPPED_TO_RECEIVE;
-    } else if (access == VAL_OBJ_ACCESS_RW && entry.mapping == VAL_OBJ_MAP_TPDO) {
-        access = READ_WRITE_MAPPED_TO_SEND;
+    } else if (direction && access == VAL_OBJ_ACCESS_RW) {
+        access = direction == EPdoDirection::Receive ? READ_WRITE_MAPPED_TO_RECEIVE : READ_WRITE_MAPPED_TO_SEND;
     }
     mSections.key(latin1("AccessType"), access);
 }
@@ -431,7 +410,7 @@ void CEdsDocument::limits(const SDictionaryEntry& entry, unsigned int type)
     };
     const std::optional<CValue> low = read(entry.lowLimit);
     const std::optional<CValue> high = read(entry.highLimit);
-    if (low && high && low->isNumber() && high->isNumber() && high->isBelow(*low)) {
+    if (low && high && high->isBelow(*low)) {
         mReport.add(entry, "limits", CEdsReport::tr("limits are left out, the low one is above the high one"));
         return;
     }
