@@ -1,4 +1,5 @@
 #include "CCommandLine.h"
+#include "Copies.h"
 #include "Files.h"
 #include "Messages.h"
 
@@ -8,17 +9,8 @@
 
 namespace
 {
-// What the command line asks for.
-struct SRequest
-{
-    SDestination destination;
-    bool dryRun = false;
-    bool verbose = false;
-    bool quiet = false;
-};
-
 // One line for each kind of loss, with its first place.
-void reportLosses(const SRequest& request, const QString& fileName, const CXddEds& eds)
+void reportLosses(const SCopyRequest& request, const QString& fileName, const CXddEds& eds)
 {
     QVector<SReportLine> report;
     for (const CXddLoss& loss : eds.mLosses) {
@@ -34,7 +26,7 @@ void reportLosses(const SRequest& request, const QString& fileName, const CXddEd
                   .arg(fileName, QString::number(eds.mEntries), QString::number(eds.mIncomplete)));
 }
 
-bool convertFile(const SRequest& request, const QString& fileName)
+bool convertFile(const SCopyRequest& request, const QString& fileName)
 {
     QByteArray bytes;
     CXddEds eds;
@@ -46,14 +38,7 @@ bool convertFile(const SRequest& request, const QString& fileName)
     if (!request.quiet) {
         reportLosses(request, fileName, eds);
     }
-    const QString output = request.destination.of(fileName);
-    if (request.dryRun || writeFile(output, eds.mText, errorText)) {
-        return true;
-    }
-    if (!errorText.isEmpty()) {
-        complain(QCoreApplication::translate("tools", "%1: Cannot write: %2").arg(output, errorText));
-    }
-    return false;
+    return request.dryRun || writeFile(request.destination.of(fileName), eds.mText);
 }
 
 int run(const QStringList& arguments)
@@ -81,7 +66,7 @@ int run(const QStringList& arguments)
     if (const std::optional<int> status = line.parse(arguments)) {
         return *status;
     }
-    SRequest request;
+    SCopyRequest request;
     request.destination.output = line.isSet(output) ? line.value(output) : standardStream();
     request.destination.outputDir = line.value(outputDir);
     request.destination.suffix = QStringLiteral(".eds");
@@ -95,15 +80,7 @@ int run(const QStringList& arguments)
         return CCommandLine::refuse(
             QCoreApplication::translate("xdd2eds", "Only one of --output and --output-dir can be meant."));
     }
-    const QString refusal = request.dryRun ? QString() : request.destination.refusal(line.files());
-    if (!refusal.isEmpty()) {
-        return CCommandLine::refuse(refusal);
-    }
-    bool ok = true;
-    for (const QString& fileName : line.files()) {
-        ok = convertFile(request, fileName) && ok;
-    }
-    return ok ? EXIT_ALL_DONE : EXIT_NOT_ALL_DONE;
+    return writeCopies(request, line.files(), convertFile);
 }
 } // namespace
 

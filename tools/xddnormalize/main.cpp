@@ -1,4 +1,5 @@
 #include "CCommandLine.h"
+#include "Copies.h"
 #include "Files.h"
 #include "Messages.h"
 
@@ -13,16 +14,7 @@
 
 namespace
 {
-// What the command line asks for.
-struct SRequest
-{
-    SDestination destination;
-    bool dryRun = false;
-    bool verbose = false;
-    bool quiet = false;
-};
-
-void reportChanges(const SRequest& request, const QString& fileName, const QList<CXddChange>& changes)
+void reportChanges(const SCopyRequest& request, const QString& fileName, const QList<CXddChange>& changes)
 {
     QVector<SReportLine> report;
     for (const CXddChange& change : changes) {
@@ -40,12 +32,13 @@ void reportChanges(const SRequest& request, const QString& fileName, const QList
                    .arg(fileName, QString::number(made)));
 }
 
-// Tests the copy as it was written. A file that does not load in any form gets the library's message.
-bool stillLoads(const QString& fileName, const QByteArray& copy)
+// Tests that the library reads the description in its form. The original takes the way that other programs open it in,
+// so that the library's message names the lines of the original, not those of the copy.
+bool isReadable(const QString& fileName, const QByteArray& original)
 {
     QTemporaryFile file;
     QString errorText;
-    if (!file.open() || file.write(copy) != copy.size() || !file.flush()) {
+    if (!file.open() || file.write(original) != original.size() || !file.flush()) {
         complainAbout(fileName, file.errorString());
         return false;
     }
@@ -60,7 +53,7 @@ bool stillLoads(const QString& fileName, const QByteArray& copy)
     return true;
 }
 
-bool normalizeFile(const SRequest& request, const QString& fileName)
+bool normalizeFile(const SCopyRequest& request, const QString& fileName)
 {
     QByteArray bytes;
     QByteArray normalized;
@@ -73,15 +66,11 @@ bool normalizeFile(const SRequest& request, const QString& fileName)
     if (!request.quiet) {
         reportChanges(request, fileName, changes);
     }
-    const QString output = request.destination.of(fileName);
     const bool needed = !request.dryRun && (!request.destination.inPlace || normalized != bytes);
-    if (needed && !writeFile(output, normalized, errorText)) {
-        if (!errorText.isEmpty()) {
-            complain(QCoreApplication::translate("tools", "%1: Cannot write: %2").arg(output, errorText));
-        }
+    if (needed && !writeFile(request.destination.of(fileName), normalized)) {
         return false;
     }
-    return stillLoads(fileName, bytes);
+    return isReadable(fileName, bytes);
 }
 
 int listRules()
@@ -127,7 +116,7 @@ int run(const QStringList& arguments)
     if (line.isSet(rules)) {
         return listRules();
     }
-    SRequest request;
+    SCopyRequest request;
     request.destination.output = line.isSet(output) ? line.value(output) : standardStream();
     request.destination.outputDir = line.value(outputDir);
     request.destination.inPlace = line.isSet(inPlace);
@@ -141,15 +130,7 @@ int run(const QStringList& arguments)
         return CCommandLine::refuse(QCoreApplication::translate(
             "xddnormalize", "Only one of --output, --output-dir and --in-place can be meant."));
     }
-    const QString refusal = request.dryRun ? QString() : request.destination.refusal(line.files());
-    if (!refusal.isEmpty()) {
-        return CCommandLine::refuse(refusal);
-    }
-    bool ok = true;
-    for (const QString& fileName : line.files()) {
-        ok = normalizeFile(request, fileName) && ok;
-    }
-    return ok ? EXIT_ALL_DONE : EXIT_NOT_ALL_DONE;
+    return writeCopies(request, line.files(), normalizeFile);
 }
 } // namespace
 
