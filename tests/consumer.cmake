@@ -56,7 +56,8 @@ foreach(program main:mvxIso15745Xml open_any:mvxXddTools)
 endforeach()
 unset(ENV{LD_LIBRARY_PATH})
 
-# As a part of another project, which gets neither tests nor tools, and is installed with its libraries.
+# As a part of another project, which gets neither tests nor tools, and is installed with its libraries. With Qt 6 only the
+# reader is built and nothing installed: that differs in names alone, and all of it a second time takes a minute.
 file(WRITE "${WORK_DIR}/parent/CMakeLists.txt" "
 cmake_minimum_required(VERSION 3.25)
 project(parent LANGUAGES CXX)
@@ -73,10 +74,14 @@ if(TARGET xddinfo OR TARGET tst_load)
 endif()
 ")
 run(${CMAKE_COMMAND} -G Ninja -S "${WORK_DIR}/parent" -B "${WORK_DIR}/parent/build")
-run(${CMAKE_COMMAND} --build "${WORK_DIR}/parent/build")
-expect_program("${WORK_DIR}/parent/build/example/example")
-run(${CMAKE_COMMAND} --install "${WORK_DIR}/parent/build" --prefix "${WORK_DIR}/parent/installed")
-file(REMOVE_RECURSE "${WORK_DIR}/parent/build")
-expect_program("${WORK_DIR}/parent/installed/bin/example")
+if(QT_MAJOR EQUAL 6)
+    run(${CMAKE_COMMAND} --build "${WORK_DIR}/parent/build" --target example)
+    expect_program("${WORK_DIR}/parent/build/example/example")
+else()
+    run(${CMAKE_COMMAND} --build "${WORK_DIR}/parent/build")
+    run(${CMAKE_COMMAND} --install "${WORK_DIR}/parent/build" --prefix "${WORK_DIR}/parent/installed")
+    file(REMOVE_RECURSE "${WORK_DIR}/parent/build")
+    expect_program("${WORK_DIR}/parent/installed/bin/example")
+endif()
 
 file(REMOVE_RECURSE "${WORK_DIR}")

@@ -88,14 +88,15 @@ void TestLibrary::symbols()
     QFETCH(QString, library);
     static const QRegularExpression line(QStringLiteral("^[0-9a-f]+ ([A-Za-z]) (.*)$"));
     static const QRegularExpression ownWeak(QStringLiteral("^(?:vtable|typeinfo|typeinfo name) for I?C[A-Z]\\w+$"));
+    static const QRegularExpression instruments(QStringLiteral("^__(?:odr_)?asan|^__st(?:art|op)___sancov"));
     QStringList exported;
     const QString names = output(NM, {QStringLiteral("-DC"), QStringLiteral("--defined-only"), library});
     for (const QString& text : names.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
         const QRegularExpressionMatch match = line.match(text);
         const QString symbol = match.captured(2);
         const bool isWeak = QStringLiteral("WVuvw").contains(match.captured(1));
-        if (!symbol.startsWith(QLatin1String("__asan")) && !symbol.startsWith(QLatin1String("__odr_asan"))
-            && (!isWeak || ownWeak.match(symbol).hasMatch()) && !exported.contains(symbol)) {
+        if (!instruments.match(symbol).hasMatch() && (!isWeak || ownWeak.match(symbol).hasMatch())
+            && !exported.contains(symbol)) {
             exported << symbol;
         }
     }
