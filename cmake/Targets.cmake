@@ -17,8 +17,9 @@ function(mvx_target_defaults target)
         QT_NO_URL_CAST_FROM_STRING)
 endfunction()
 
-# A shared library of the project: the name of the build for its Qt, hidden visibility, the so-name of the project, its public headers, and an alias in the
-# namespace under which an installed library is found. `<TARGET>_LIBRARY` tells its export header that it is being built.
+# A shared library of the project: the name of the build for its Qt, hidden visibility, the so-name of the project, its
+# public headers, and an alias in the namespace under which an installed library is found. `<TARGET>_LIBRARY` tells its
+# export header that it is being built.
 function(mvx_shared_library target)
     cmake_parse_arguments(ARG "" "HEADER_DIR" "HEADERS" ${ARGN})
     list(TRANSFORM ARG_HEADERS PREPEND ${ARG_HEADER_DIR}/)

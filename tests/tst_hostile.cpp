@@ -337,25 +337,25 @@ void TestHostile::toolsOnManyOfAKind_data()
         return "<CANopenObject index='" + QByteArray::number(i, 16) + "' name='x' objectType='7' " + rest + "/>\n";
     };
     QTest::newRow("objects of one index")
-        << objects << repeated(50000, [&](int) { return entry(0x3000, {}); }) << 300000;
-    QTest::newRow("objects") << objects << repeated(100000, [&](int i) { return entry(0x10000 + i, {}); }) << 600000;
+        << objects << repeated(MANY / 2, [&](int) { return entry(0x3000, {}); }) << 3 * MANY;
+    QTest::newRow("objects") << objects << repeated(MANY, [&](int i) { return entry(0x10000 + i, {}); }) << 6 * MANY;
     QTest::newRow("sub-objects of one object")
         << objects
         << "<CANopenObject index='3000' name='x' objectType='9'>"
                + repeated(
-                   100000,
+                   MANY,
                    [](int i) {
                        return "<CANopenSubObject subIndex='" + QByteArray::number(i, 16)
                               + "' name='x' objectType='7'/>\n";
                    })
                + "</CANopenObject>"
-        << 600000;
-    QTest::newRow("clashes of COB-IDs") << objects << repeated(5000, [](int i) {
+        << 6 * MANY;
+    QTest::newRow("clashes of COB-IDs") << objects << repeated(MANY / 20, [](int i) {
         const QByteArray number = QByteArray::number(i % 0x1FF + 1, 16).rightJustified(3, '0');
         return "<CANopenObject index='1" + QByteArray(i % 2 == 0 ? "8" : "A").append(number.right(2))
                + "' name='x' objectType='9'><CANopenSubObject subIndex='01' name='x' objectType='7' "
                  "dataType='0007' accessType='rw' defaultValue='0x181'/></CANopenObject>\n";
-    }) << 100000;
+    }) << MANY;
     const QByteArray types = "</dataTypeList>";
     QTest::newRow("types that refer to each other many times")
         << types
@@ -378,7 +378,7 @@ void TestHostile::toolsOnManyOfAKind_data()
                                       << QByteArray("<derived uniqueID='A'><dataTypeIDRef uniqueIDRef='B'/></derived>"
                                                     "<derived uniqueID='B'><dataTypeIDRef uniqueIDRef='A'/></derived>")
                                       << 100;
-    QTest::newRow("parameters") << QByteArray("</parameterList>") << repeated(50000, [](int i) {
+    QTest::newRow("parameters") << QByteArray("</parameterList>") << repeated(MANY / 2, [](int i) {
         return "<parameter uniqueID='Q" + QByteArray::number(i)
                + "'><dataTypeIDRef uniqueIDRef='T_LEVEL'/></parameter>\n";
     }) << 100;
@@ -387,8 +387,8 @@ void TestHostile::toolsOnManyOfAKind_data()
                                             "type='ProfileBody_CommunicationNetwork_CANopen'><ApplicationLayers>"
                                             "<CANopenObjectList><CANopenObject index='1000'/></CANopenObjectList>"
                                             "</ApplicationLayers></ProfileBody></ISO15745Profile>\n")
-                                     .repeated(5000)
-                              << 200000;
+                                     .repeated(MANY / 20)
+                              << 2 * MANY;
 }
 
 void TestHostile::toolsOnManyOfAKind()
