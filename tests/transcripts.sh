@@ -1,9 +1,9 @@
 #!/bin/sh
 # Runs the commands of the transcripts in tests/data/transcripts and compares what they print. Called with the folder of
-# the programs, the major version of Qt, for which NAME-qt5.txt or NAME-qt6.txt is taken, and the German catalogue, without
-# which german.txt is left out. A transcript has commands behind "$ ", each followed by what it prints: its output, then its messages
-# behind "! ", and "= " with its status unless that is 0. They run in a copy of tests/data. With MVX_RENEW=1 the
-# transcripts are written instead.
+# the programs, the major version of Qt, for which NAME-qt5.txt or NAME-qt6.txt is taken, and the German catalogue,
+# without which german.txt is left out. A transcript has commands behind "$ ", each followed by what it prints: its
+# output, then its messages behind "! ", and "= " with its status unless that is 0. They run in a copy of tests/data.
+# With MVX_RENEW=1 the transcripts are written instead.
 set -eu
 bin=$(cd "$1" && pwd)
 data=$(cd "$(dirname "$0")/data" && pwd)
