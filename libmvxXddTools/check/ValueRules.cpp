@@ -38,8 +38,10 @@ SValues valuesOf(const SDictionaryEntry& entry)
         return SNamedValue{name, &stated, stated.isGiven() ? CValue::read(stated.text, entry.dataType) : std::nullopt};
     };
     return {
-        named(ATTR_DEFAULT_VALUE, entry.defaultValue), named(ATTR_ACTUAL_VALUE, entry.actualValue),
-        named(ATTR_LOW_LIMIT, entry.lowLimit), named(ATTR_HIGH_LIMIT, entry.highLimit)};
+        {ATTR_DEFAULT_VALUE, &entry.defaultValue, entry.value},
+        named(ATTR_ACTUAL_VALUE, entry.actualValue),
+        named(ATTR_LOW_LIMIT, entry.lowLimit),
+        named(ATTR_HIGH_LIMIT, entry.highLimit)};
 }
 
 // True for two numbers, the first of which is below the second.

@@ -19,14 +19,19 @@ void CEdsSections::begin(const QString& name)
 void CEdsSections::key(const QString& name, const QString& value)
 {
     if (!value.isEmpty()) {
-        mText += name + QLatin1Char('=') + value + NEWLINE;
+        line(name, value);
     }
+}
+
+void CEdsSections::line(const QString& name, const QString& value)
+{
+    mText += name + QLatin1Char('=') + value + NEWLINE;
 }
 
 SEdsText CEdsSections::text(const QString& name, const QString& value)
 {
     SEdsText text = edsText(value, MAX_LINE - int(name.size()) - 1);
-    mText += name + QLatin1Char('=') + text.text + NEWLINE;
+    line(name, text.text);
     return text;
 }
 

@@ -22,6 +22,8 @@ public:
     QByteArray bytes() const;
 
 private:
+    void line(const QString& name, const QString& value);
+
     QString mText;
 };
 
