@@ -10,7 +10,7 @@
 
 namespace
 {
-std::vector<const CheckRules*> ruleGroups()
+std::vector<const CheckRules*> checkRuleGroups()
 {
     return {&formRules(),  &identityRules(), &objectRules(), &typeRules(),
             &valueRules(), &pdoRules(),      &cobIdRules(),  &networkRules()};
@@ -38,7 +38,7 @@ QList<CXddFinding> CXddChecker::check(const QByteArray& description)
     }
     const CDictionary dictionary(read);
     const std::vector<SPdoMapping> mappings = pdoMappings(dictionary);
-    for (const CheckRules* const group : ruleGroups()) {
+    for (const CheckRules* const group : checkRuleGroups()) {
         for (const SCheckRule& rule : *group) {
             if (rule.find != nullptr) {
                 findings.setRule(rule);
@@ -52,7 +52,7 @@ QList<CXddFinding> CXddChecker::check(const QByteArray& description)
 QList<CXddCheckRule> CXddChecker::rules()
 {
     QList<CXddCheckRule> rules;
-    for (const CheckRules* const group : ruleGroups()) {
+    for (const CheckRules* const group : checkRuleGroups()) {
         for (const SCheckRule& row : *group) {
             CXddCheckRule rule;
             rule.mId = QString::fromLatin1(row.id);

@@ -15,9 +15,6 @@ using namespace NProcessNames;
 
 namespace
 {
-constexpr int HEXADECIMAL = 16;
-constexpr int DECIMAL = 10;
-
 quint64 keyOf(unsigned int index, unsigned int subIndex)
 {
     return quint64(index) << 32U | subIndex;
@@ -56,14 +53,13 @@ SDictionaryEntry entryOf(const SEntry& entry)
     result.parameter = entry.parameter;
     result.isSubObject = entry.element.is(TAG_CAN_OPEN_SUB_OBJECT);
     const QString objectType = entry.element.attribute(ATTR_OBJECT_TYPE);
-    const bool hasPrefix = objectType.trimmed().startsWith(QLatin1String("0x"), Qt::CaseInsensitive);
-    result.objectType = CXmlValue::toNumber(objectType, hasPrefix ? HEXADECIMAL : DECIMAL, UCHAR_MAX).value_or(0);
+    const bool hasPrefix = hasHexadecimalPrefix(objectType.trimmed());
+    result.objectType = CXmlValue::toNumber(objectType, hasPrefix ? 16 : 10, UCHAR_MAX).value_or(0);
     const QString ownType = entry.element.attribute(ATTR_DATA_TYPE);
     result.ownsDataType = !ownType.isEmpty();
     result.dataType =
         CXmlValue::toNumber(
-            result.ownsDataType ? ownType : entry.parameter.dataType(entry.element.attribute(ATTR_OBJECT_TYPE)),
-            HEXADECIMAL)
+            result.ownsDataType ? ownType : entry.parameter.dataType(entry.element.attribute(ATTR_OBJECT_TYPE)), 16)
             .value_or(0);
     result.access = accessOf(entry.element, entry.parameter);
     result.lowLimit = stated(entry.element, ATTR_LOW_LIMIT, entry.parameter.lowLimit());
@@ -134,13 +130,13 @@ CDictionary::CDictionary(const CDescription& description)
             SDictionaryEntry& object = mEntries[added.object];
             ++object.subObjects;
             added.index = object.index;
-            added.subIndex = CXmlValue::toNumber(entry.element.attribute(ATTR_SUB_INDEX), HEXADECIMAL);
+            added.subIndex = CXmlValue::toNumber(entry.element.attribute(ATTR_SUB_INDEX), 16);
             if (added.index && added.subIndex && !mBySubIndex.contains(keyOf(*added.index, *added.subIndex))) {
                 mBySubIndex.insert(keyOf(*added.index, *added.subIndex), number);
             }
         } else {
             added.object = number;
-            added.index = CXmlValue::toNumber(entry.element.attribute(ATTR_INDEX), HEXADECIMAL);
+            added.index = CXmlValue::toNumber(entry.element.attribute(ATTR_INDEX), 16);
             mObjects.push_back(number);
             if (added.index && !mByIndex.contains(*added.index)) {
                 mByIndex.insert(*added.index, number);

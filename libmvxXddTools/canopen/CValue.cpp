@@ -8,14 +8,6 @@
 
 namespace
 {
-const QLatin1String NODE_ID("$NODEID");
-const QLatin1String HEXADECIMAL_PREFIX("0x");
-
-bool isHexadecimal(const QString& text)
-{
-    return text.startsWith(HEXADECIMAL_PREFIX, Qt::CaseInsensitive);
-}
-
 // Digits of a base and nothing else.
 std::optional<quint64> digits(const QString& text, int base)
 {
@@ -72,7 +64,7 @@ std::optional<CInteger> integer(const QString& text, unsigned int dataType)
     const bool isNegative = text.startsWith(QLatin1Char('-'));
     const bool hasSign = isNegative || text.startsWith(QLatin1Char('+'));
     const QString number = hasSign ? text.mid(1) : text;
-    const bool isPattern = isHexadecimal(number);
+    const bool isPattern = hasHexadecimalPrefix(number);
     const std::optional<quint64> magnitude =
         isPattern ? digits(number.mid(HEXADECIMAL_PREFIX.size()), 16) : digits(number, 10);
     if (!magnitude) {
@@ -93,6 +85,11 @@ CInteger highest(unsigned int dataType)
     return {false, std::numeric_limits<quint64>::max() >> unsigned(64 - bits)};
 }
 } // namespace
+
+bool hasHexadecimalPrefix(const QString& text)
+{
+    return text.startsWith(HEXADECIMAL_PREFIX, Qt::CaseInsensitive);
+}
 
 CInteger::CInteger(bool isNegative, quint64 magnitude)
     : mIsNegative(isNegative && magnitude != 0)
@@ -152,7 +149,7 @@ std::optional<CValue> CValue::read(const QString& text, unsigned int dataType)
         return value;
     case EValueKind::Real: {
         value.mKind = EKind::Real;
-        value.mIsPattern = isHexadecimal(trimmed);
+        value.mIsPattern = hasHexadecimalPrefix(trimmed);
         bool ok = false;
         value.mReal = trimmed.toDouble(&ok);
         return ok || (value.mIsPattern && digits(trimmed.mid(HEXADECIMAL_PREFIX.size()), 16))

@@ -1,6 +1,7 @@
 #ifndef MVXXDDTOOLS_CVALUE_H
 #define MVXXDDTOOLS_CVALUE_H
 
+#include <QLatin1String>
 #include <QString>
 
 #include <optional>
@@ -33,6 +34,15 @@ private:
 /** The node-IDs of a CANopen network. */
 constexpr unsigned int MIN_NODE_ID = 1;
 constexpr unsigned int MAX_NODE_ID = 127;
+
+/** What stands for the node-ID in a value. */
+constexpr QLatin1String NODE_ID("$NODEID", 7);
+
+/** How descriptions mark a hexadecimal number. */
+constexpr QLatin1String HEXADECIMAL_PREFIX("0x", 2);
+
+/** True for a text that begins with that mark, in either case. */
+bool hasHexadecimalPrefix(const QString& text);
 
 /**
  * The value of a text of a description, as the data type of its entry makes it: a default or actual value, or a limit.

@@ -17,7 +17,7 @@ namespace
 {
 // The writings of numbers. An absent attribute is a null text, and no fault here.
 
-bool isHexadecimal(const QString& text)
+bool areHexadecimalDigits(const QString& text)
 {
     return std::all_of(text.begin(), text.end(), [](QChar character) {
         const ushort code = character.unicode();
@@ -27,17 +27,17 @@ bool isHexadecimal(const QString& text)
 
 bool isIndex(const QString& text)
 {
-    return text.isNull() || (text.size() == 4 && isHexadecimal(text));
+    return text.isNull() || (text.size() == 4 && areHexadecimalDigits(text));
 }
 
 bool isSubIndex(const QString& text)
 {
-    return text.isNull() || (isHexadecimal(text) && CXmlValue::toNumber(text, 16, UCHAR_MAX));
+    return text.isNull() || (areHexadecimalDigits(text) && CXmlValue::toNumber(text, 16, UCHAR_MAX));
 }
 
 bool isOctets(const QString& text)
 {
-    return text.size() % 2 == 0 && isHexadecimal(text);
+    return text.size() % 2 == 0 && areHexadecimalDigits(text);
 }
 
 bool isDecimalByte(const QString& text)

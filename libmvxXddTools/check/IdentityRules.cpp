@@ -29,8 +29,8 @@ struct SReadings
 SReadings readingsOf(const QString& text)
 {
     const QString trimmed = text.trimmed();
-    const bool hasPrefix = trimmed.startsWith(QLatin1String("0x"), Qt::CaseInsensitive);
-    return {readInteger(trimmed), readInteger(hasPrefix ? trimmed : QLatin1String("0x") + trimmed)};
+    const bool hasPrefix = hasHexadecimalPrefix(trimmed);
+    return {readInteger(trimmed), readInteger(hasPrefix ? trimmed : HEXADECIMAL_PREFIX + trimmed)};
 }
 
 void compareWithObject(const SChecked& checked, QLatin1String name, unsigned int subIndex, CFindings& findings)

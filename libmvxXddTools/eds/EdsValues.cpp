@@ -7,8 +7,6 @@
 
 namespace
 {
-const QLatin1String NODE_ID("$NODEID");
-
 // The suffix of a number literal in C.
 QString withoutSuffix(const QString& text)
 {
@@ -21,7 +19,7 @@ QString withoutSuffix(const QString& text)
 // A number as it was written, hexadecimal or decimal, without leading zeros.
 QString numberText(const CInteger& number, const QString& written, bool isSigned)
 {
-    const bool isHexadecimal = written.contains(QLatin1String("0x"), Qt::CaseInsensitive);
+    const bool isHexadecimal = written.contains(HEXADECIMAL_PREFIX, Qt::CaseInsensitive);
     return isHexadecimal && !isSigned && !number.isNegative()
                ? QStringLiteral("0x") + QString::number(number.magnitude(), 16).toUpper()
                : number.text();

@@ -10,11 +10,6 @@ using namespace NIso15745Tags;
 
 namespace
 {
-SNewElement around(const QString& name, const SNewElement& child)
-{
-    return {name, QString(), QString(), {child}};
-}
-
 SNewElement supportedRate(const QString& rate)
 {
     return {TAG_SUPPORTED_BAUD_RATE, QStringLiteral("value=\"%1\"").arg(rate), QString()};

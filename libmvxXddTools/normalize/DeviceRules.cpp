@@ -78,11 +78,6 @@ void readOnlyWritings(const CDescription& description, CXmlEdits& edits)
     }
 }
 
-SNewElement around(const QString& name, const SNewElement& child)
-{
-    return {name, QString(), QString(), {child}};
-}
-
 // What the embedded samples carry where a device has no function to state.
 SNewElement emptyLabel()
 {

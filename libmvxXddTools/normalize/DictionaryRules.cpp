@@ -2,6 +2,7 @@
 #include "CXmlValue.h"
 #include "NIso15745Tags.h"
 #include "canopen/CDescription.h"
+#include "canopen/CValue.h"
 #include "normalize/NormalizeRules.h"
 #include "text/CXmlEdits.h"
 
@@ -32,7 +33,7 @@ void entryNames(const CDescription& description, CXmlEdits& edits)
 void number(const CXmlElement& element, QLatin1String attribute, int base, unsigned int highest, CXmlEdits& edits)
 {
     const QString digits = element.attribute(attribute).trimmed();
-    if (digits.isEmpty() || digits.startsWith(QLatin1String("0x"), Qt::CaseInsensitive)) {
+    if (digits.isEmpty() || hasHexadecimalPrefix(digits)) {
         return;
     }
     const auto meant = CXmlValue::toNumber(digits, base, highest);
@@ -40,7 +41,7 @@ void number(const CXmlElement& element, QLatin1String attribute, int base, unsig
         edits.leave(element, attribute);
     } else if (CXmlValue::toNumber(digits, BY_PREFIX, highest) != meant) {
         const bool isPlain = base == HEXADECIMAL && digits.at(0) != QLatin1Char('+');
-        edits.rewrite(element, attribute, isPlain ? QLatin1String("0x") + digits : CCanOpenNames::subIndex(*meant));
+        edits.rewrite(element, attribute, isPlain ? HEXADECIMAL_PREFIX + digits : CCanOpenNames::subIndex(*meant));
     }
 }
 

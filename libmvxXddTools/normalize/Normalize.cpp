@@ -9,7 +9,7 @@
 
 namespace
 {
-std::vector<const NormalizeRules*> ruleGroups()
+std::vector<const NormalizeRules*> normalizeRuleGroups()
 {
     return {&headerRules(), &deviceRules(), &dictionaryRules(), &bitRateRules()};
 }
@@ -40,7 +40,7 @@ ENormalized normalizeText(
         return ENormalized::Foreign;
     }
     CXmlEdits edits(text, layout);
-    for (const NormalizeRules* const group : ruleGroups()) {
+    for (const NormalizeRules* const group : normalizeRuleGroups()) {
         for (const SNormalizeRule& rule : *group) {
             edits.setCause(QString::fromLatin1(rule.id), translated(rule.reason), rule.matters);
             rule.apply(read, edits);
@@ -54,7 +54,7 @@ ENormalized normalizeText(
 QList<CXddRule> normalizeRules()
 {
     QList<CXddRule> rules;
-    for (const NormalizeRules* const group : ruleGroups()) {
+    for (const NormalizeRules* const group : normalizeRuleGroups()) {
         for (const SNormalizeRule& row : *group) {
             CXddRule rule;
             rule.mId = QString::fromLatin1(row.id);

@@ -38,6 +38,11 @@ QString rewritten(const QString& name, const QString& before, const QString& aft
 }
 } // namespace
 
+SNewElement around(const QString& name, const SNewElement& child)
+{
+    return {name, QString(), QString(), {child}};
+}
+
 CXmlEdits::CXmlEdits(const CXmlText& text, ELayout layout)
     : mText(text)
     , mLayout(layout)

@@ -18,6 +18,9 @@ struct SNewElement
     std::vector<SNewElement> children = {};
 };
 
+/** An element with nothing but one child. */
+SNewElement around(const QString& name, const SNewElement& child);
+
 /**
  * Changes of a text. Every call changes the text and records the change, or records that a place was left, so that the
  * two cannot come apart. All calls see the text as it was; what one has supplied is not there for the next.
