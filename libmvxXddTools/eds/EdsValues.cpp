@@ -21,7 +21,7 @@ QString numberText(const CInteger& number, const QString& written, bool isSigned
 {
     const bool isHexadecimal = written.contains(HEXADECIMAL_PREFIX, Qt::CaseInsensitive);
     return isHexadecimal && !isSigned && !number.isNegative()
-               ? QStringLiteral("0x") + QString::number(number.magnitude(), 16).toUpper()
+               ? HEXADECIMAL_PREFIX + QString::number(number.magnitude(), 16).toUpper()
                : number.text();
 }
 
@@ -120,5 +120,5 @@ QString edsTime(const QTime& time)
 
 QString edsNumber(quint64 number)
 {
-    return QStringLiteral("0x") + QStringLiteral("%1").arg(number, 8, 16, QLatin1Char('0')).toUpper();
+    return HEXADECIMAL_PREFIX + QStringLiteral("%1").arg(number, 8, 16, QLatin1Char('0')).toUpper();
 }
