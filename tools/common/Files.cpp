@@ -9,7 +9,10 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -38,16 +41,37 @@ bool writeDevice(const QString& fileName, const QByteArray& bytes, QString& erro
     return ok;
 }
 
+// Writes bytes up to the disk, as far as the file system can do that. Qt's own writing goes through a buffer and does
+// not say why that could not be emptied.
+bool writeToDisk(int handle, const QByteArray& bytes)
+{
+    const char* next = bytes.constData();
+    const char* const end = next + bytes.size();
+    while (next != end) {
+        const ssize_t written = write(handle, next, static_cast<std::size_t>(end - next));
+        if (written < 0 && errno != EINTR) {
+            return false;
+        }
+        next += std::max<ssize_t>(written, 0);
+    }
+    return fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP;
+}
+
 bool replaceFile(const QString& fileName, const QByteArray& bytes, QString& errorText)
 {
     QSaveFile file(fileName);
-    bool ok = file.open(QIODevice::WriteOnly);
-    if (ok) {
+    if (file.open(QIODevice::WriteOnly)) {
         keepOwnerAndMode(fileName, file);
-        ok = file.write(bytes) == bytes.size() && file.commit();
+        if (!writeToDisk(file.handle(), bytes)) {
+            errorText = QString::fromLocal8Bit(std::strerror(errno));
+            return false;
+        }
+        if (file.commit()) {
+            return true;
+        }
     }
     errorText = file.errorString();
-    return ok;
+    return false;
 }
 } // namespace
 
