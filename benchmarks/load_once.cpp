@@ -45,17 +45,16 @@ void load(const QString& fileName)
 void openAny(const QString& fileName)
 {
     const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
-    QList<CXddChange> changes;
-    QString error;
-    if (!CXddNormalizer::load(*reader, fileName, changes, error)) {
-        qFatal("%s", qUtf8Printable(error));
+    QList<CXddRemark> remarks;
+    CXddRemark failure;
+    if (!CXddNormalizer::load(CXddDocument::openFile(fileName), *reader, remarks, failure)) {
+        qFatal("%s", qUtf8Printable(failure.mText));
     }
 }
 
 void check(const QString& fileName)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly) || CXddChecker::check(file.readAll()).isEmpty()) {
+    if (CXddChecker::check(CXddDocument::openFile(fileName)).isEmpty()) {
         qFatal("Nothing found in %s, where mandatory objects are missing", qUtf8Printable(fileName));
     }
 }

@@ -48,9 +48,8 @@ if(MVX_CATALOGUES)
         COMPONENT runtime)
 endif()
 
-# The tools have the same names in both builds, so only that for Qt 5 installs them.
 set(MVX_TOOLS xdd2eds xddcheck xddinfo xddnormalize)
-if(MVX_BUILD_TOOLS AND MVX_QT_MAJOR EQUAL 5)
+if(MVX_BUILD_TOOLS AND MVX_INSTALL_TOOLS)
     install(TARGETS ${MVX_TOOLS}
         RUNTIME
             DESTINATION ${CMAKE_INSTALL_BINDIR}

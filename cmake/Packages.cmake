@@ -87,7 +87,7 @@ profile and the object dictionary.
 
 This package contains the API documentation.")
 
-if(MVX_BUILD_TOOLS AND MVX_QT_MAJOR EQUAL 5)
+if(MVX_BUILD_TOOLS AND MVX_INSTALL_TOOLS)
     foreach(tool ${MVX_TOOLS})
         mvx_compressed(docs/man/${tool}.1)
         install(FILES ${PROJECT_BINARY_DIR}/${tool}.1.gz

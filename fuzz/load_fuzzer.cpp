@@ -22,10 +22,7 @@ public:
         }
     }
 
-    QString name() const
-    {
-        return QStringLiteral("/proc/self/fd/%1").arg(mDescriptor);
-    }
+    QString name() const { return QStringLiteral("/proc/self/fd/%1").arg(mDescriptor); }
 
 private:
     int mDescriptor = memfd_create("description", 0);

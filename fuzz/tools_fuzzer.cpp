@@ -1,12 +1,15 @@
 #include <CXddChecker.h>
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
-#include <CXddStated.h>
+#include <CXddPdos.h>
+#include <ICIso15745.h>
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 
-// Normalises, checks and converts arbitrary bytes. Any file given on the command line is taken once, without fuzzing.
+// Opens arbitrary bytes, and normalises, loads, checks and converts what they describe. Any file given on the command line
+// is taken once, without fuzzing.
 
 namespace
 {
@@ -16,31 +19,40 @@ void require(bool condition)
         __builtin_trap();
     }
 }
+
+void requireSound(const QList<CXddRemark>& remarks, int lines)
+{
+    for (const CXddRemark& remark : remarks) {
+        require(remark.mLine >= 0 && remark.mLine <= lines && !remark.mText.isEmpty() && remark.mText.size() < 3000);
+    }
+}
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
-    const int lines = int(bytes.count('\n')) + 1;
-    for (const CXddFinding& finding : CXddChecker::check(bytes)) {
-        require(finding.mLine >= 1 && finding.mLine <= lines * 4 && !finding.mText.isEmpty()); // UTF-32 has fewer bytes
+    const int lines = (int(bytes.count('\n')) + 1) * 4; // UTF-32 has fewer bytes
+    const CXddDocument document = CXddDocument::open(bytes);
+    requireSound(CXddChecker::check(document), lines);
+    if (!document.isOpen()) {
+        require(!document.failure().mText.isEmpty());
+        return 0;
     }
-    CXddStated::in(bytes);
+    // A second time changes nothing, and what is lost is no more than there is.
+    const CXddCopy copy = CXddNormalizer::normalize(document);
+    requireSound(copy.mRemarks, lines);
+    const CXddDocument again = CXddDocument::open(copy.mText);
+    require(again.isOpen() && CXddNormalizer::normalize(again).mText == copy.mText);
+    const CXddEds eds = CXddEdsWriter::write(document);
+    requireSound(eds.mLosses, lines);
+    require(eds.mIncomplete <= eds.mEntries);
+    CXddPdos::of(document);
 
-    QByteArray normalized;
-    QList<CXddChange> changes;
-    QString error;
-    CXddEds eds;
-    QString edsError;
-    const bool isDescription = CXddNormalizer::normalize(bytes, normalized, changes, error);
-    require(CXddEdsWriter::write(bytes, eds, edsError) == isDescription);
-    if (isDescription) {
-        // A second time changes nothing, and what is lost is no more than there is.
-        QByteArray again;
-        require(CXddNormalizer::normalize(normalized, again, changes, error) && again == normalized);
-        require(eds.mIncomplete <= eds.mEntries);
-    } else {
-        require(!error.isEmpty() && normalized.isEmpty());
-    }
+    const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
+    QList<CXddRemark> remarks;
+    CXddRemark failure;
+    require(CXddNormalizer::load(document, *reader, remarks, failure) || !failure.mText.isEmpty());
+    requireSound(remarks, lines);
+    CXddPdos::of(reader->getObjList());
     return 0;
 }

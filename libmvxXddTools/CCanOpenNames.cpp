@@ -1,60 +1,49 @@
 #include "CCanOpenNames.h"
 
+#include "canopen/DataTypes.h"
+#include "canopen/ObjectCodes.h"
+
 #include <QCoreApplication>
-#include <QMap>
+
+#include <algorithm>
+#include <array>
 
 namespace
 {
 QString hexadecimal(unsigned int number, int digits)
 {
-    return QStringLiteral("0x") + QStringLiteral("%1").arg(number, digits, 16, QLatin1Char('0')).toUpper();
+    return QString::number(number, 16).toUpper().rightJustified(digits, QLatin1Char('0'));
 }
 
 // The numbers that CiA gives to its profiles; other numbers are a manufacturer's own.
 constexpr unsigned int FIRST_PROFILE = 301;
 constexpr unsigned int LAST_PROFILE = 999;
 
-QString profileName(unsigned int number)
+struct SProfileName
 {
-    switch (number) {
-    case 302:
-        return QCoreApplication::translate("CCanOpenNames", "additional application layer functions");
-    case 401:
-        return QCoreApplication::translate("CCanOpenNames", "generic I/O modules");
-    case 402:
-        return QCoreApplication::translate("CCanOpenNames", "drives and motion control");
-    case 404:
-        return QCoreApplication::translate("CCanOpenNames", "measuring devices and closed-loop controllers");
-    case 405:
-        return QCoreApplication::translate("CCanOpenNames", "programmable devices");
-    case 406:
-        return QCoreApplication::translate("CCanOpenNames", "encoders");
-    case 408:
-        return QCoreApplication::translate("CCanOpenNames", "fluid power technology");
-    case 410:
-        return QCoreApplication::translate("CCanOpenNames", "inclinometers");
-    case 412:
-        return QCoreApplication::translate("CCanOpenNames", "medical devices");
-    case 413:
-        return QCoreApplication::translate("CCanOpenNames", "truck gateways");
-    case 417:
-        return QCoreApplication::translate("CCanOpenNames", "lift control systems");
-    case 418:
-        return QCoreApplication::translate("CCanOpenNames", "battery modules");
-    case 419:
-        return QCoreApplication::translate("CCanOpenNames", "battery chargers");
-    case 422:
-        return QCoreApplication::translate("CCanOpenNames", "municipal vehicles");
-    case 425:
-        return QCoreApplication::translate("CCanOpenNames", "medical diagnostic add-on modules");
-    case 447:
-        return QCoreApplication::translate("CCanOpenNames", "special-purpose car add-on devices");
-    case 454:
-        return QCoreApplication::translate("CCanOpenNames", "energy management systems");
-    default:
-        return QString();
-    }
-}
+    unsigned int number;
+    const char* name; // In English, to be translated
+};
+
+constexpr std::array PROFILES = {
+    SProfileName{302, QT_TRANSLATE_NOOP("CCanOpenNames", "additional application layer functions")},
+    SProfileName{401, QT_TRANSLATE_NOOP("CCanOpenNames", "generic I/O modules")},
+    SProfileName{402, QT_TRANSLATE_NOOP("CCanOpenNames", "drives and motion control")},
+    SProfileName{404, QT_TRANSLATE_NOOP("CCanOpenNames", "measuring devices and closed-loop controllers")},
+    SProfileName{405, QT_TRANSLATE_NOOP("CCanOpenNames", "programmable devices")},
+    SProfileName{406, QT_TRANSLATE_NOOP("CCanOpenNames", "encoders")},
+    SProfileName{408, QT_TRANSLATE_NOOP("CCanOpenNames", "fluid power technology")},
+    SProfileName{410, QT_TRANSLATE_NOOP("CCanOpenNames", "inclinometers")},
+    SProfileName{412, QT_TRANSLATE_NOOP("CCanOpenNames", "medical devices")},
+    SProfileName{413, QT_TRANSLATE_NOOP("CCanOpenNames", "truck gateways")},
+    SProfileName{417, QT_TRANSLATE_NOOP("CCanOpenNames", "lift control systems")},
+    SProfileName{418, QT_TRANSLATE_NOOP("CCanOpenNames", "battery modules")},
+    SProfileName{419, QT_TRANSLATE_NOOP("CCanOpenNames", "battery chargers")},
+    SProfileName{422, QT_TRANSLATE_NOOP("CCanOpenNames", "municipal vehicles")},
+    SProfileName{425, QT_TRANSLATE_NOOP("CCanOpenNames", "medical diagnostic add-on modules")},
+    SProfileName{447, QT_TRANSLATE_NOOP("CCanOpenNames", "special-purpose car add-on devices")},
+    SProfileName{454, QT_TRANSLATE_NOOP("CCanOpenNames", "energy management systems")},
+};
 } // namespace
 
 CCanOpenNames::EObjectKind CCanOpenNames::objectKind(unsigned int index)
@@ -67,49 +56,20 @@ CCanOpenNames::EObjectKind CCanOpenNames::objectKind(unsigned int index)
 
 QString CCanOpenNames::objectCode(unsigned int objectType)
 {
-    static const QMap<unsigned int, QString> names = {
-        {0, QStringLiteral("NULL")},      {2, QStringLiteral("DOMAIN")}, {5, QStringLiteral("DEFTYPE")},
-        {6, QStringLiteral("DEFSTRUCT")}, {7, QStringLiteral("VAR")},    {8, QStringLiteral("ARRAY")},
-        {9, QStringLiteral("RECORD")},
-    };
-    return names.value(objectType, QString::number(objectType));
+    const QLatin1String name = objectCodeOf(objectType).name;
+    return name.isEmpty() ? QString::number(objectType) : QString(name);
 }
 
 QString CCanOpenNames::dataType(unsigned int dataType)
 {
-    static const QMap<unsigned int, QString> names = {
-        {0x00, QString()},
-        {0x01, QStringLiteral("BOOLEAN")},
-        {0x02, QStringLiteral("INTEGER8")},
-        {0x03, QStringLiteral("INTEGER16")},
-        {0x04, QStringLiteral("INTEGER32")},
-        {0x05, QStringLiteral("UNSIGNED8")},
-        {0x06, QStringLiteral("UNSIGNED16")},
-        {0x07, QStringLiteral("UNSIGNED32")},
-        {0x08, QStringLiteral("REAL32")},
-        {0x09, QStringLiteral("VISIBLE_STRING")},
-        {0x0A, QStringLiteral("OCTET_STRING")},
-        {0x0B, QStringLiteral("UNICODE_STRING")},
-        {0x0C, QStringLiteral("TIME_OF_DAY")},
-        {0x0D, QStringLiteral("TIME_DIFFERENCE")},
-        {0x0F, QStringLiteral("DOMAIN")},
-        {0x10, QStringLiteral("INTEGER24")},
-        {0x11, QStringLiteral("REAL64")},
-        {0x12, QStringLiteral("INTEGER40")},
-        {0x13, QStringLiteral("INTEGER48")},
-        {0x14, QStringLiteral("INTEGER56")},
-        {0x15, QStringLiteral("INTEGER64")},
-        {0x16, QStringLiteral("UNSIGNED24")},
-        {0x18, QStringLiteral("UNSIGNED40")},
-        {0x19, QStringLiteral("UNSIGNED48")},
-        {0x1A, QStringLiteral("UNSIGNED56")},
-        {0x1B, QStringLiteral("UNSIGNED64")},
-        {0x20, QStringLiteral("PDO_COMMUNICATION_PARAMETER")},
-        {0x21, QStringLiteral("PDO_MAPPING")},
-        {0x22, QStringLiteral("SDO_PARAMETER")},
-        {0x23, QStringLiteral("IDENTITY")},
-    };
-    return names.value(dataType, index(dataType));
+    const QLatin1String name = dataTypeOf(dataType).name;
+    return dataType != 0 && name.isEmpty() ? index(dataType) : QString(name);
+}
+
+QString CCanOpenNames::shortDataType(unsigned int dataType)
+{
+    const QLatin1String name = dataTypeOf(dataType).shortName;
+    return name.isEmpty() ? CCanOpenNames::dataType(dataType) : QString(name);
 }
 
 QString CCanOpenNames::deviceProfile(unsigned int number)
@@ -118,17 +78,21 @@ QString CCanOpenNames::deviceProfile(unsigned int number)
     if (profile < FIRST_PROFILE || profile > LAST_PROFILE) {
         return QString();
     }
-    const QString name = profileName(profile);
     const QString standard = QStringLiteral("CiA %1").arg(profile);
-    return name.isEmpty() ? standard : standard + QLatin1String(", ") + name;
+    const auto* const known = std::find_if(
+        PROFILES.begin(), PROFILES.end(), [profile](const SProfileName& row) { return row.number == profile; });
+    return known == PROFILES.end()
+               ? standard
+               : standard + QLatin1String(", ") + QCoreApplication::translate("CCanOpenNames", known->name);
 }
 
 QString CCanOpenNames::index(unsigned int index)
 {
-    return hexadecimal(index, 4);
+    return QStringLiteral("0x") + hexadecimal(index, 4);
 }
 
-QString CCanOpenNames::subIndex(unsigned int subIndex)
+QString CCanOpenNames::entry(unsigned int index, std::optional<unsigned int> subIndex)
 {
-    return hexadecimal(subIndex, 2);
+    const QString object = CCanOpenNames::index(index);
+    return subIndex ? object + QLatin1Char(':') + hexadecimal(*subIndex, 2) : object;
 }

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <optional>
+
 /** What CiA 301 calls the numbers of an object dictionary, and how they are written. */
 class MVXXDDTOOLS_EXPORT CCanOpenNames
 {
@@ -26,6 +28,9 @@ public:
     /** The name of a data type such as "UNSIGNED32" for 7; the index for an unknown one, nothing for 0. */
     static QString dataType(unsigned int dataType);
 
+    /** The name of a data type for narrow tables, such as "U32" for 7; that of dataType() where it has none. */
+    static QString shortDataType(unsigned int dataType);
+
     /** The name of the device profile that the lower 16 bits of object 0x1000 name, such as "CiA 401, generic I/O
      * modules" for 0x191, in the language of the program; "CiA 499" for one without a name here, nothing for a number
      * that is none of CiA's. */
@@ -34,8 +39,8 @@ public:
     /** An object index such as "0x1018". */
     static QString index(unsigned int index);
 
-    /** A sub-index such as "0x0A". */
-    static QString subIndex(unsigned int subIndex);
+    /** An entry of the object dictionary: an object such as "0x1018", or a sub-object such as "0x2001:0A". */
+    static QString entry(unsigned int index, std::optional<unsigned int> subIndex = std::nullopt);
 };
 
 #endif

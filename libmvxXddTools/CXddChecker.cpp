@@ -1,66 +1,54 @@
 #include "CXddChecker.h"
 
-#include "canopen/CDescription.h"
-#include "canopen/CDictionary.h"
-#include "canopen/Pdos.h"
-#include "check/CFindings.h"
-#include "check/CheckRules.h"
-#include "text/CEncodedText.h"
-#include "text/CXmlText.h"
+#include "SOpened.h"
+#include "canopen/NFormatWords.h"
+#include "check/CCheckRules.h"
+
+using namespace NFormatWords;
 
 namespace
 {
-std::vector<const CheckRules*> checkRuleGroups()
+std::vector<const CheckRules*> checkRuleTables()
 {
-    return {&formRules(),  &identityRules(), &objectRules(), &typeRules(),
-            &valueRules(), &pdoRules(),      &cobIdRules(),  &networkRules()};
+    return {&CCheckRules::form(),  &CCheckRules::identity(), &CCheckRules::object(), &CCheckRules::type(),
+            &CCheckRules::value(), &CCheckRules::pdo(),      &CCheckRules::cobId(),  &CCheckRules::network()};
+}
+
+// Other tools take a description without a typed body; those that follow the schema find nothing in it.
+bool hasTypedBody(const CDescription& description, CXddRemark& failure)
+{
+    if (!description.bodiesOfType(VAL_DEVICE_BODY).empty() || !description.bodiesOfType(VAL_NETWORK_BODY).empty()) {
+        return true;
+    }
+    failure.mRule = QStringLiteral("not-a-description");
+    failure.mLine = description.root().line();
+    failure.mColumn = description.root().place().column;
+    failure.mText =
+        CRemarks::filled(CRemarks::tr("No ProfileBody is of the type %1 or %2."), {VAL_DEVICE_BODY, VAL_NETWORK_BODY});
+    return false;
 }
 } // namespace
 
-QList<CXddFinding> CXddChecker::check(const QByteArray& description)
+QList<CXddRemark> CXddChecker::check(const CXddDocument& document)
 {
-    CFindings findings;
-    CEncodedText encoded;
-    CXmlText text;
-    CXmlText::SError error;
-    error.line = 1;
-    // The first two rules of the form are found here: there is nothing yet that the others could look at.
-    findings.setRule(formRules()[0]);
-    if (!encoded.decode(description, error.message) || !text.read(encoded.text(), error)) {
-        findings.addAt(error.line, error.message);
-        return findings.inOrder();
+    CXddRemark failure = document.failure();
+    if (!document.isOpen() || !hasTypedBody(openedOf(document).description, failure)) {
+        failure.mKind = CXddRemark::KIND_FINDING;
+        return {failure};
     }
-    const CDescription read(text);
-    findings.setRule(formRules()[1]);
-    if (!read.isCanOpen(error.message) || !read.hasTypedBody(error.message)) {
-        findings.add(read.root(), error.message);
-        return findings.inOrder();
-    }
-    const CDictionary dictionary(read);
-    const std::vector<SPdoMapping> mappings = pdoMappings(dictionary);
-    for (const CheckRules* const group : checkRuleGroups()) {
-        for (const SCheckRule& rule : *group) {
-            if (rule.find != nullptr) {
-                findings.setRule(rule);
-                rule.find({read, dictionary, mappings}, findings);
+    CRemarks findings;
+    for (const CheckRules* const table : checkRuleTables()) {
+        for (const SCheckRule& rule : *table) {
+            if (rule.apply != nullptr) {
+                findings.setCause(rule.cause(CXddRemark::KIND_FINDING));
+                rule.apply(openedOf(document).description, findings);
             }
         }
     }
     return findings.inOrder();
 }
 
-QList<CXddCheckRule> CXddChecker::rules()
+QList<CXddRule> CXddChecker::rules()
 {
-    QList<CXddCheckRule> rules;
-    for (const CheckRules* const group : checkRuleGroups()) {
-        for (const SCheckRule& row : *group) {
-            CXddCheckRule rule;
-            rule.mId = QString::fromLatin1(row.id);
-            rule.mSeverity = row.severity;
-            rule.mSummary = CFindings::tr(row.summary);
-            rule.mReason = CFindings::tr(row.help);
-            rules << rule;
-        }
-    }
-    return rules;
+    return shownRules(checkRuleTables());
 }

@@ -1,42 +1,18 @@
 #include "CXddEdsWriter.h"
 
-#include "CXddNormalizer.h"
-#include "canopen/CDescription.h"
-#include "canopen/CDictionary.h"
-#include "eds/CEdsDocument.h"
-#include "normalize/Normalize.h"
-#include "text/CEncodedText.h"
-#include "text/CXmlText.h"
-
-CXddLoss::CXddLoss() = default;
+#include "SOpened.h"
+#include "eds/CEdsWriter.h"
 
 CXddEds::CXddEds() = default;
 
-bool CXddEdsWriter::write(const QByteArray& description, CXddEds& eds, QString& errorText)
+CXddEds CXddEdsWriter::write(const CXddDocument& document)
 {
-    QByteArray normalized;
-    QList<CXddChange> changes;
-    // Without new lines, so that what is lost is reported with the lines of the original.
-    if (normalizeText(CXmlEdits::ELayout::InLine, description, normalized, changes, errorText)
-        != ENormalized::Description) {
-        return false;
-    }
-    CEncodedText encoded;
-    CXmlText text;
-    CXmlText::SError error;
-    if (!encoded.decode(normalized, errorText)) {
-        return false;
-    }
-    if (!text.read(encoded.text(), error)) {
-        errorText = error.message;
-        return false;
-    }
-    const CDescription read(text);
-    const CDictionary dictionary(read);
-    const CEdsDocument document(read, dictionary, CXddStated::in(description));
-    eds.mText = document.bytes();
-    eds.mEntries = int(dictionary.entries().size());
-    eds.mIncomplete = document.report().incompleteEntries();
-    eds.mLosses = document.report().losses();
-    return true;
+    const CDescription& description = openedOf(document).description;
+    const CEdsWriter writer(description);
+    CXddEds eds;
+    eds.mText = writer.bytes();
+    eds.mEntries = int(description.dictionary().entries().size());
+    eds.mIncomplete = writer.incompleteEntries();
+    eds.mLosses = writer.losses();
+    return eds;
 }

@@ -1,22 +1,12 @@
 #ifndef MVXXDDTOOLS_CXDDEDSWRITER_H
 #define MVXXDDTOOLS_CXDDEDSWRITER_H
 
+#include "CXddDocument.h"
+#include "CXddRemark.h"
 #include "mvxXddTools_export.h"
 
 #include <QByteArray>
 #include <QList>
-#include <QString>
-
-/** Something that a description says and its INI form cannot. */
-class MVXXDDTOOLS_EXPORT CXddLoss
-{
-public:
-    CXddLoss();
-
-    int mLine = 0; ///< line of the description, from 1
-    QString mKind; ///< what losses of one kind have in common, such as "access"
-    QString mText; ///< what is lost or written in another way, in the language of the program
-};
 
 /** A description in the INI form of CiA 306 (EDS). */
 class MVXXDDTOOLS_EXPORT CXddEds
@@ -24,31 +14,21 @@ class MVXXDDTOOLS_EXPORT CXddEds
 public:
     CXddEds();
 
-    QByteArray mText;        ///< the whole file, with CR and LF at the ends of lines
-    int mEntries = 0;        ///< objects and sub-objects of the description
-    int mIncomplete = 0;     ///< those of them that the file does not wholly say
-    QList<CXddLoss> mLosses; ///< what is not said, in the order of the description
+    QByteArray mText;          ///< The whole file, with CR and LF at the ends of lines
+    int mEntries = 0;          ///< Objects and sub-objects of the description
+    int mIncomplete = 0;       ///< Those of them that the file does not fully represent
+    QList<CXddRemark> mLosses; ///< What it does not say, in the order of the lines
 };
 
 /**
- * Writes descriptions for the tools that read EDS files only.
- *
- * The description is normalised first. The same description always gives the same bytes. The functions keep no state
- * and may run on any thread.
+ * Writes descriptions for the tools that read EDS files only. The same description always gives the same bytes. The
+ * functions keep no state and may run on any thread.
  */
 class MVXXDDTOOLS_EXPORT CXddEdsWriter
 {
 public:
-    /**
-     * Writes the INI form of a description.
-     *
-     * @param description the whole file, in any encoding that Qt knows
-     * @param eds         replaced by the INI form and what it does not say
-     * @param errorText   replaced by one message when the result is false; untouched otherwise
-     * @return false when the text is not well-formed XML or no CANopen description; nothing but @p errorText is then
-     *         changed
-     */
-    static bool write(const QByteArray& description, CXddEds& eds, QString& errorText);
+    /** The INI form of a description, which has to be open. */
+    static CXddEds write(const CXddDocument& document);
 };
 
 #endif

@@ -1,58 +1,90 @@
 #include "CXddNormalizer.h"
 
-#include "normalize/Normalize.h"
+#include "CMemoryFile.h"
+#include "SOpened.h"
+#include "normalize/CNormalizeRules.h"
 
 #include <ICIso15745.h>
 
-#include <QCoreApplication>
-#include <QFile>
-#include <QTemporaryFile>
-
 namespace
 {
-bool loadCopy(ICIso15745& reader, const QString& fileName, const QByteArray& copy, QString& errorText)
+std::vector<const NormalizeRules*> normalizeRuleTables()
 {
-    QTemporaryFile file;
-    if (!file.open() || file.write(copy) != copy.size() || !file.flush()) {
-        errorText = QCoreApplication::translate("mvxXddTools", "Cannot write the temporary file %1: %2")
-                        .arg(file.fileName(), file.errorString());
+    return {
+        &CNormalizeRules::header(), &CNormalizeRules::device(), &CNormalizeRules::dictionary(),
+        &CNormalizeRules::bitRate()};
+}
+
+void apply(const std::vector<const NormalizeRules*>& tables, const CDescription& description, CXmlEdits& edits)
+{
+    for (const NormalizeRules* const table : tables) {
+        for (const SNormalizeRule& rule : *table) {
+            edits.setCause(rule);
+            rule.apply(description, edits);
+        }
+    }
+}
+
+CXddCopy copyOf(const CXddDocument& document, CXmlEdits::ELayout layout)
+{
+    const SOpened& opened = openedOf(document);
+    CXmlEdits edits(opened.tree, layout);
+    apply(normalizeRuleTables(), opened.description, edits);
+    if (layout == CXmlEdits::ELayout::Indented) {
+        edits.onlyRecord();
+    }
+    apply({&CNormalizeRules::load()}, opened.description, edits);
+    CXddCopy copy;
+    copy.mText = edits.isEmpty() ? document.bytes() : opened.encoded.encode(edits.result());
+    copy.mLoads = edits.isComplete();
+    copy.mRemarks = edits.remarks();
+    return copy;
+}
+
+// Messages name the file by the name that the user knows.
+bool loadBytes(const QByteArray& bytes, const QString& name, ICIso15745& reader, QString& errorText)
+{
+    const CMemoryFile file(bytes);
+    if (file.name().isEmpty()) {
+        errorText = CRemarks::filled(CRemarks::tr("There is no memory for a copy of %1: %2"), {name, file.errorText()});
         return false;
     }
-    const bool loaded = reader.load(file.fileName(), errorText);
-    errorText.replace(file.fileName(), fileName);
+    const bool loaded = reader.load(file.name(), errorText);
+    const auto place = errorText.indexOf(file.name());
+    if (!loaded && place >= 0) {
+        errorText.replace(place, file.name().size(), name);
+    }
     return loaded;
 }
 } // namespace
 
-bool CXddNormalizer::normalize(
-    const QByteArray& description, QByteArray& normalized, QList<CXddChange>& changes, QString& errorText)
+CXddCopy::CXddCopy() = default;
+
+CXddCopy CXddNormalizer::normalize(const CXddDocument& document)
 {
-    return normalizeText(CXmlEdits::ELayout::Indented, description, normalized, changes, errorText)
-           == ENormalized::Description;
+    return copyOf(document, CXmlEdits::ELayout::Indented);
 }
 
-bool CXddNormalizer::load(ICIso15745& reader, const QString& fileName, QList<CXddChange>& changes, QString& errorText)
+bool CXddNormalizer::load(
+    const CXddDocument& document, ICIso15745& reader, QList<CXddRemark>& remarks, CXddRemark& failure)
 {
-    changes.clear();
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return reader.load(fileName, errorText); // Which says why
-    }
-    const QByteArray description = file.readAll();
-    QByteArray normalized;
-    switch (normalizeText(CXmlEdits::ELayout::InLine, description, normalized, changes, errorText)) {
-    case ENormalized::Foreign:
+    remarks.clear();
+    failure = document.failure();
+    if (!document.isOpen()) {
         return false;
-    case ENormalized::Unreadable:
-        return reader.load(fileName, errorText);
-    case ENormalized::Description:
-        break;
     }
-    return normalized == description ? reader.load(fileName, errorText)
-                                     : loadCopy(reader, fileName, normalized, errorText);
+    const CXddCopy copy = copyOf(document, CXmlEdits::ELayout::InLine);
+    remarks = copy.mRemarks;
+    failure.mLine = openedOf(document).tree.root().line();
+    return loadBytes(copy.mText, document.name(), reader, failure.mText);
+}
+
+bool CXddNormalizer::loadAsItIs(const CXddDocument& document, ICIso15745& reader, QString& errorText)
+{
+    return loadBytes(document.bytes(), document.name(), reader, errorText);
 }
 
 QList<CXddRule> CXddNormalizer::rules()
 {
-    return normalizeRules();
+    return shownRules(normalizeRuleTables());
 }

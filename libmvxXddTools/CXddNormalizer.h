@@ -1,7 +1,8 @@
 #ifndef MVXXDDTOOLS_CXDDNORMALIZER_H
 #define MVXXDDTOOLS_CXDDNORMALIZER_H
 
-#include "CXddChange.h"
+#include "CXddDocument.h"
+#include "CXddRemark.h"
 #include "CXddRule.h"
 #include "mvxXddTools_export.h"
 
@@ -11,46 +12,47 @@
 
 class ICIso15745;
 
+/** A description in the form that the library reads. */
+class MVXXDDTOOLS_EXPORT CXddCopy
+{
+public:
+    CXddCopy();
+
+    QByteArray mText;           ///< The whole file, in its encoding; what it was when there was nothing to do
+    bool mLoads = true;         ///< False when something was left that ICIso15745::load refuses
+    QList<CXddRemark> mRemarks; ///< What was changed and what was left, in the order of the lines
+};
+
 /**
- * Opens the CANopen descriptions that exist.
+ * Brings the CANopen descriptions that exist into the form that the library reads.
  *
  * Most descriptions rely on defaults, write hexadecimal numbers without a prefix, or keep data types in parameters.
- * ICIso15745::load refuses these, or reads something else than they mean. The functions here bring a description into
- * the form that the library reads without changing what it says: the text stays as it is, character by character, but
- * for insertions and replaced values, each of which is reported. xddnormalize(1) has the rules.
+ * ICIso15745::load refuses these, or reads something else than they mean. A copy keeps the text as it is, character by
+ * character, but for insertions and replaced values, each of which is reported. xddnormalize(1) has the rules.
  *
- * The functions keep no state and may run on any thread. They keep the limits for hostile files that the library keeps.
+ * The functions keep no state and may run on any thread.
  */
 class MVXXDDTOOLS_EXPORT CXddNormalizer
 {
 public:
-    /**
-     * Normalises the bytes of a description, in any encoding that Qt knows.
-     *
-     * @param description the whole file
-     * @param normalized  replaced by the whole file in the form that the library reads, in the same encoding; equal to
-     *                    @p description when there was nothing to do
-     * @param changes     replaced by what was done and what was left, in the order of the text
-     * @param errorText   replaced by one message when the result is false; untouched otherwise
-     * @return false when the text is not well-formed XML or no CANopen description; nothing but @p errorText is then
-     *         changed
-     */
-    static bool normalize(
-        const QByteArray& description, QByteArray& normalized, QList<CXddChange>& changes, QString& errorText);
+    /** The copy of a description, which has to be open. What is unknown or ambiguous is left as it is. */
+    static CXddCopy normalize(const CXddDocument& document);
 
     /**
-     * Loads a description as ICIso15745::load does, normalised. A file that needs no change is loaded as it is; of any
-     * other a normalised copy is loaded from a temporary file.
+     * Loads a description as ICIso15745::load does, normalised. What the library could not read, such as an object that
+     * is there twice, is left out and reported. No file is written.
      *
-     * @param reader    the reader to load into
-     * @param fileName  a file, or a resource path
-     * @param changes   replaced by what was done and what was left, in the order of the text; empty when the file was
-     *                  loaded as it is
-     * @param errorText replaced by one message when the load fails, with the lines of the file @p fileName; without
-     *                  meaning otherwise
-     * @return true when every profile of the file was read
+     * @param document the description; one that is not open fails
+     * @param reader   the reader to load into
+     * @param remarks  replaced by what was changed and what was left out, in the order of the lines
+     * @param failure  replaced by the reason when the load fails
+     * @return true when every profile of the description was read
      */
-    static bool load(ICIso15745& reader, const QString& fileName, QList<CXddChange>& changes, QString& errorText);
+    static bool load(const CXddDocument& document, ICIso15745& reader, QList<CXddRemark>& remarks, CXddRemark& failure);
+
+    /** Loads the bytes of a document as they are, as ICIso15745::load does it with their file. The document need not be
+     * open. Returns false with the message of that function. */
+    static bool loadAsItIs(const CXddDocument& document, ICIso15745& reader, QString& errorText);
 
     /** The rules by which a description is normalised, in the order in which they are applied. */
     static QList<CXddRule> rules();

@@ -1,19 +1,22 @@
 #ifndef MVXXDDTOOLS_CXDDRULE_H
 #define MVXXDDTOOLS_CXDDRULE_H
 
+#include "CXddRemark.h"
 #include "mvxXddTools_export.h"
 
 #include <QString>
 
-/** What one rule of a tool does, in the language of the program. */
+/** A rule by which descriptions are checked, normalised or written, in the language of the program. */
 class MVXXDDTOOLS_EXPORT CXddRule
 {
 public:
     CXddRule();
 
-    QString mId;      ///< such as "read-only"
-    QString mSummary; ///< what the rule looks for, and what becomes of it
-    QString mReason;  ///< why
+    QString mId;      ///< Such as "read-only"
+    QString mSummary; ///< What the rule looks for, and what becomes of it
+    QString mReason;  ///< Why that matters or is right, and what to do
+
+    CXddRemark::ESeverity mSeverity = CXddRemark::SEVERITY_NOTE; ///< Of its remarks
 };
 
 #endif

@@ -31,10 +31,7 @@ public:
             , mName(name)
         {}
 
-        const QDomElement& operator*() const
-        {
-            return mElement;
-        }
+        const QDomElement& operator*() const { return mElement; }
 
         CIterator& operator++()
         {
@@ -42,25 +39,16 @@ public:
             return *this;
         }
 
-        bool operator!=(const CIterator& other) const
-        {
-            return mElement != other.mElement;
-        }
+        bool operator!=(const CIterator& other) const { return mElement != other.mElement; }
 
     private:
         QDomElement mElement;
         QString mName; // Empty for every name
     };
 
-    CIterator begin() const
-    {
-        return {mFirst, mName};
-    }
+    CIterator begin() const { return {mFirst, mName}; }
 
-    CIterator end() const
-    {
-        return {QDomElement(), mName};
-    }
+    CIterator end() const { return {QDomElement(), mName}; }
 
 private:
     QString mName;

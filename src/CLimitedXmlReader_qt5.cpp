@@ -21,10 +21,7 @@ class CSource final : public QXmlInputSource
 public:
     using QXmlInputSource::QXmlInputSource;
 
-    QChar next() override
-    {
-        return mNext == mEnd ? nextBlock() : *mNext++;
-    }
+    QChar next() override { return mNext == mEnd ? nextBlock() : *mNext++; }
 
     // Called with every block that is read from the file.
     void setData(const QString& data) override
@@ -37,10 +34,7 @@ public:
     }
 
     // The last character before the one that was handed out last, white space left out.
-    QChar previous() const
-    {
-        return mNext == mBlock.constBegin() ? mLastBefore : lastInBlock(mNext - 1);
-    }
+    QChar previous() const { return mNext == mBlock.constBegin() ? mLastBefore : lastInBlock(mNext - 1); }
 
 private:
     // The parser is told of the end of a block before the next one is read.
@@ -142,80 +136,38 @@ private:
         return mLexicalHandler->startDTD(name, publicId, systemId);
     }
 
-    void setDocumentLocator(QXmlLocator* locator) override
-    {
-        mContentHandler->setDocumentLocator(locator);
-    }
+    void setDocumentLocator(QXmlLocator* locator) override { mContentHandler->setDocumentLocator(locator); }
 
-    bool startDocument() override
-    {
-        return mContentHandler->startDocument();
-    }
+    bool startDocument() override { return mContentHandler->startDocument(); }
 
-    bool endDocument() override
-    {
-        return mContentHandler->endDocument();
-    }
+    bool endDocument() override { return mContentHandler->endDocument(); }
 
-    bool endPrefixMapping(const QString& prefix) override
-    {
-        return mContentHandler->endPrefixMapping(prefix);
-    }
+    bool endPrefixMapping(const QString& prefix) override { return mContentHandler->endPrefixMapping(prefix); }
 
-    bool characters(const QString& text) override
-    {
-        return mContentHandler->characters(text);
-    }
+    bool characters(const QString& text) override { return mContentHandler->characters(text); }
 
-    bool ignorableWhitespace(const QString& text) override
-    {
-        return mContentHandler->ignorableWhitespace(text);
-    }
+    bool ignorableWhitespace(const QString& text) override { return mContentHandler->ignorableWhitespace(text); }
 
     bool processingInstruction(const QString& target, const QString& data) override
     {
         return mContentHandler->processingInstruction(target, data);
     }
 
-    bool skippedEntity(const QString& name) override
-    {
-        return mContentHandler->skippedEntity(name);
-    }
+    bool skippedEntity(const QString& name) override { return mContentHandler->skippedEntity(name); }
 
-    bool endDTD() override
-    {
-        return mLexicalHandler->endDTD();
-    }
+    bool endDTD() override { return mLexicalHandler->endDTD(); }
 
-    bool startEntity(const QString& name) override
-    {
-        return mLexicalHandler->startEntity(name);
-    }
+    bool startEntity(const QString& name) override { return mLexicalHandler->startEntity(name); }
 
-    bool endEntity(const QString& name) override
-    {
-        return mLexicalHandler->endEntity(name);
-    }
+    bool endEntity(const QString& name) override { return mLexicalHandler->endEntity(name); }
 
-    bool startCDATA() override
-    {
-        return mLexicalHandler->startCDATA();
-    }
+    bool startCDATA() override { return mLexicalHandler->startCDATA(); }
 
-    bool endCDATA() override
-    {
-        return mLexicalHandler->endCDATA();
-    }
+    bool endCDATA() override { return mLexicalHandler->endCDATA(); }
 
-    bool comment(const QString& text) override
-    {
-        return mLexicalHandler->comment(text);
-    }
+    bool comment(const QString& text) override { return mLexicalHandler->comment(text); }
 
-    QString errorString() const override
-    {
-        return mRefusal.isEmpty() ? mContentHandler->errorString() : mRefusal;
-    }
+    QString errorString() const override { return mRefusal.isEmpty() ? mContentHandler->errorString() : mRefusal; }
 
     const CSource& mSource;
     QXmlContentHandler* mContentHandler = nullptr;

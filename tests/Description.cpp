@@ -3,6 +3,9 @@
 #include <QTemporaryFile>
 #include <QtTest>
 
+#include <algorithm>
+#include <vector>
+
 namespace
 {
 // Lists the fields of records, each behind the path that leads to it.
@@ -11,26 +14,11 @@ class CDump
 public:
     QStringList lines;
 
-    void add(const QString& path, const QString& value)
-    {
-        lines << path + QStringLiteral(" = ") + value;
-    }
-    void add(const QString& path, unsigned int value)
-    {
-        add(path, QString::number(value));
-    }
-    void add(const QString& path, bool value)
-    {
-        add(path, value ? QStringLiteral("true") : QStringLiteral("false"));
-    }
-    void add(const QString& path, const QDate& value)
-    {
-        add(path, value.toString(Qt::ISODate));
-    }
-    void add(const QString& path, const QTime& value)
-    {
-        add(path, value.toString(Qt::ISODateWithMs));
-    }
+    void add(const QString& path, const QString& value) { lines << path + QStringLiteral(" = ") + value; }
+    void add(const QString& path, unsigned int value) { add(path, QString::number(value)); }
+    void add(const QString& path, bool value) { add(path, value ? QStringLiteral("true") : QStringLiteral("false")); }
+    void add(const QString& path, const QDate& value) { add(path, value.toString(Qt::ISODate)); }
+    void add(const QString& path, const QTime& value) { add(path, value.toString(Qt::ISODateWithMs)); }
     void add(const QString& path, CNetworkCanOpenProfile::EBaudrate value)
     {
         add(path, CNetworkCanOpenProfile::baudrateAsStr(value));
@@ -190,15 +178,28 @@ QStringList dump(ICIso15745& reader)
 
 QStringList differences(const QStringList& first, const QStringList& second)
 {
-    QStringList lines;
-    for (const QString& line : first) {
-        if (!second.contains(line)) {
-            lines << QLatin1Char('-') + line;
+    // How long the longest common sequence is of what follows a line of the one and a line of the other.
+    const int rows = int(first.size());
+    const int columns = int(second.size());
+    std::vector<std::vector<int>> common(std::size_t(rows + 1), std::vector<int>(std::size_t(columns + 1), 0));
+    const auto at = [&common](int row, int column) -> int& {
+        return common[std::size_t(row)][std::size_t(column)];
+    };
+    for (int row = rows - 1; row >= 0; --row) {
+        for (int column = columns - 1; column >= 0; --column) {
+            at(row, column) = first.at(row) == second.at(column) ? at(row + 1, column + 1) + 1
+                                                                 : std::max(at(row + 1, column), at(row, column + 1));
         }
     }
-    for (const QString& line : second) {
-        if (!first.contains(line)) {
-            lines << QLatin1Char('+') + line;
+    QStringList lines;
+    for (int row = 0, column = 0; row < rows || column < columns;) {
+        if (row < rows && column < columns && first.at(row) == second.at(column)) {
+            ++row;
+            ++column;
+        } else if (column == columns || (row < rows && at(row + 1, column) >= at(row, column + 1))) {
+            lines << QLatin1Char('-') + first.at(row++);
+        } else {
+            lines << QLatin1Char('+') + second.at(column++);
         }
     }
     return lines;

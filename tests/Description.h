@@ -23,7 +23,7 @@ bool loadText(ICIso15745& reader, const QByteArray& text, QString& errorText);
 /** Every field of everything that a reader holds, one line each: "deviceProfile.mFileName = d.xdd". */
 QStringList dump(ICIso15745& reader);
 
-/** The lines that two lists do not have in common, with "-" in front of those of the first and "+" of the second. */
+/** What makes the second of two sequences of the first: the lines to take away behind "-", those to add behind "+". */
 QStringList differences(const QStringList& first, const QStringList& second);
 
 #endif

@@ -37,7 +37,7 @@ if(QT_MAJOR EQUAL 5)
     foreach(tool xddinfo xddnormalize xddcheck xdd2eds)
         run("${WORK_DIR}/moved/bin/${tool}" --version)
     endforeach()
-    run("${WORK_DIR}/moved/bin/xddinfo" --object 0x1018)
+    run("${WORK_DIR}/moved/bin/xddinfo" --sample --object 0x1018)
 endif()
 build_example(installed -D "CMAKE_PREFIX_PATH=${WORK_DIR}/moved")
 

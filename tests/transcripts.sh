@@ -5,6 +5,7 @@
 # output, then its messages behind "! ", and "= " with its status unless that is 0. They run in a copy of tests/data.
 # With MVX_RENEW=1 the transcripts are written instead.
 set -eu
+[ -x "$1/xddinfo" ] || { echo "There are no programs in $1" >&2; exit 1; }
 bin=$(cd "$1" && pwd)
 data=$(cd "$(dirname "$0")/data" && pwd)
 work=$(mktemp -d)

@@ -3,7 +3,7 @@
 #include <CXddChecker.h>
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
-#include <CXddStated.h>
+#include <CXddPdos.h>
 
 #include <QProcess>
 #include <QtTest>
@@ -151,16 +151,14 @@ void TestLibrary::layouts()
              &Network::mSpecificationRevision, &Network::mMandatoryObjects, &Network::mOptionalObjects,
              &Network::mManufacturerObjects, &Network::mObjects, &Network::mBaudRate, &Network::mSupportedBaudRates),
          layoutOf(
-             "CXddChange", &CXddChange::mWhat, &CXddChange::mLine, &CXddChange::mRule, &CXddChange::mReason,
-             &CXddChange::mChanged, &CXddChange::mMatters),
-         layoutOf("CXddRule", &CXddRule::mId, &CXddRule::mSummary, &CXddRule::mReason),
-         layoutOf("CXddCheckRule", &CXddCheckRule::mSeverity),
-         layoutOf(
-             "CXddFinding", &CXddFinding::mLine, &CXddFinding::mSeverity, &CXddFinding::mRule, &CXddFinding::mIndex,
-             &CXddFinding::mSubIndex, &CXddFinding::mText),
-         layoutOf("CXddLoss", &CXddLoss::mLine, &CXddLoss::mKind, &CXddLoss::mText),
+             "CXddRemark", &CXddRemark::mKind, &CXddRemark::mSeverity, &CXddRemark::mLine, &CXddRemark::mColumn,
+             &CXddRemark::mRule, &CXddRemark::mIndex, &CXddRemark::mSubIndex, &CXddRemark::mText, &CXddRemark::mReason,
+             &CXddRemark::mGroup),
+         layoutOf("CXddRule", &CXddRule::mId, &CXddRule::mSummary, &CXddRule::mReason, &CXddRule::mSeverity),
+         layoutOf<CXddDocument>("CXddDocument"),
+         layoutOf("CXddCopy", &CXddCopy::mText, &CXddCopy::mLoads, &CXddCopy::mRemarks),
          layoutOf("CXddEds", &CXddEds::mText, &CXddEds::mEntries, &CXddEds::mIncomplete, &CXddEds::mLosses),
-         layoutOf<CXddStated>("CXddStated")});
+         layoutOf("CXddPdo", &CXddPdo::mIsTransmit, &CXddPdo::mNumber, &CXddPdo::mFields)});
 }
 
 void TestLibrary::soNames()

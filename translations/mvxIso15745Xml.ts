@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" sourcelanguage="en_GB">
+<TS version="2.1" sourcelanguage="en">
 <context>
     <name>CCanOpenNames</name>
     <message>
@@ -108,816 +108,6 @@
     </message>
 </context>
 <context>
-    <name>CEdsReport</name>
-    <message>
-        <source>left out: it has no sub-objects</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the sub-objects of a variable are left out</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>left out: the form has no such sub-index</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>left out: it stands there already</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>left out: the form has no such index</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>left out: the form has no object code %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the bit rate %1 has no key</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>type, access, mapping and values of an array or record itself are left out</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>mapping and limits of a DOMAIN are left out</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>actual value and denotation are left out, which belong into a DCF</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>it has no data type and is written as %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>it has no access and is written as %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the form cannot say %1 together with PDOmapping %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 &quot;%2&quot; is no %3 and is left out</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 &quot;%2&quot; is written without its suffix</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>limits are left out, the low one is above the high one</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>outer blanks or control characters of a text are lost</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&quot;;&quot;, &quot;#&quot; or a leading quote of a text is written otherwise</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a text is cut off, a line has 255 characters</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a text is not only ASCII and is written as UTF-8</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>CFindings</name>
-    <message>
-        <source>&quot;%1&quot; (line %2)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>COB-ID %1 lacks $NODEID</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>COB-ID %1 has more than 11 bits, but not bit 29</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>COB-ID %1 is restricted</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>COB-ID %1 is also that of %2 (line %3)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A COB-ID is restricted, too long for its kind, or lacks $NODEID</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>It collides with other services of the network, or with the same device a second time. Use the predefined one, such as $NODEID+0x180.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Two producers of the device send with the same CAN-ID</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Receivers cannot tell them apart. Give one another CAN-ID, or set bit 31 where it is not used.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&lt;%1&gt; lacks &lt;%2&gt;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&lt;%1&gt; lacks %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 bodies of the type %2 instead of one</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>there is no &lt;%1&gt;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 &quot;%2&quot; is not %3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>four hexadecimal digits</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a hexadecimal number up to FF</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>an even number of hexadecimal digits</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a decimal number up to 255</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>subIndex &quot;%1&quot; does not have two digits</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 &quot;%2&quot; of &lt;%3&gt; is none of: %4</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>uniqueID &quot;%1&quot; stands in line %2 already</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>uniqueIDRef &quot;%1&quot; of &lt;%2&gt; names nothing</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>uniqueIDRef &quot;%1&quot; of &lt;%2&gt; names &lt;%3&gt; in line %4, which is no parameter</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file is no well-formed XML, or goes beyond the limits for hostile files</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No tool can read it. Mend the place that the message names.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The root, the technology or every body is another one than CANopen&apos;s</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No CANopen tool can use it. Check that it is the right file, and the xsi:type of its bodies.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A required element or attribute is missing</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Strict readers refuse the file. Add it; an empty one says nothing, but is there.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>index, subIndex, dataType, objFlags, objectType or subNumber is written in another way</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools read another number or none. Write index as four, subIndex as two and dataType as four hexadecimal digits without 0x, the others in decimal.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>subIndex does not have two digits</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools that want one byte skip the sub-object. Write two digits.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>accessType, PDOmapping, access, versionType, a bit rate or a dummy entry is none of the format&apos;s</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools ignore it or refuse the file. Write one of the listed texts, capitals included.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A file date is not yyyy-MM-dd, or a file time not hh:mm:ss</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools lose it or refuse the file. Write it in that form.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A uniqueID stands twice</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A reference to it means one element in one tool and the other in the next. Rename one.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A uniqueIDRef names nothing, or that of an object no parameter</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>What the reference should bring, such as the data type, is lost. Mend the ID or remove it.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 &quot;%2&quot; is not the default %3 of %4 (line %5)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>vendorID &quot;%1&quot; is no number</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is empty</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>vendorID is 0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>vendorID or productID is not the default of object 0x1018</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A tool that looks a device up by its identity does not find this description. Write the same number at both places.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>vendorID is no number</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools cannot compare it with a device. Write the number that CiA assigned.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>vendorName, vendorID, productName or productID is empty, or vendorID 0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Catalogues cannot list the device. Fill it in, if it is known.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is %2, but there are %3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>granularity is 0 (no mapping), but every mapping can be written</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>granularity is %1, but no mapping can be written</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the default &quot;%1&quot; is not supported: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 &quot;%2&quot; is no number up to 127</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>nrOfRxPDO or nrOfTxPDO is not the number of PDOs found</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools set up too many or too few PDOs. Count the objects from 0x1400 and 0x1800.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>granularity contradicts whether mappings can be written</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools offer a mapping that the device refuses, or none. 0 means fixed mappings, 8 whole bytes.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>baudRate has no supportedBaudRate</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools cannot offer a bit rate, or refuse the file. List the supported ones.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The default bit rate is not among the supported ones</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A tool that picks it cannot reach the device. Mend one of them.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The nodeID of deviceCommissioning is no number up to 127</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Node-IDs of CANopen are 1 to 127. Write one of them, or 0 for none.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the object stands in line %1 already</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the sub-object stands in line %1 already</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the index is reserved</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>objectType %1 is none of a sub-object (2, 7)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>objectType %1 is none of an object (2, 5 to 9)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 without sub-objects</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 with %2 sub-objects</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 without sub-index 0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>there is no object %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>neither a heartbeat (0x1017) nor node guarding (0x100C and 0x100D)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the default %1 is not the highest sub-index %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the data type is %1, not UNSIGNED8</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a VAR without a data type</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the data type %1 is that of a record</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the data type %1 is not known</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>no access type is stated</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>it can be neither read nor written: access is %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 &quot;%2&quot; differs from %3 of its parameter</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the type is %1, but that of %2 (line %3) is %4</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the structure has %1 members, but %2 (line %3) has %4 sub-objects</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the data type is %1, but CiA 301 gives it %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>subNumber %1 is not the number of sub-objects %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>An object stands twice</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools refuse the file or keep either one. Remove or renumber one.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A sub-object stands twice in its object</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools keep either one. Remove or renumber one.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>An index is below 0x1000 and no data type, or from 0xC000</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>These indexes are reserved, and tools refuse them. Use another one.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>objectType is no object code of CiA 301</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools do not know what to do with the entry. 7 is VAR, 8 ARRAY, 9 RECORD, 2 DOMAIN.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>An array or record has no sub-objects</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools cannot access anything of it. Add them, or make it a VAR (7).</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A variable has sub-objects</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools drop them or refuse the file. Make it an ARRAY (8) or RECORD (9).</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>An array or record has no sub-index 0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools read from it how far to go. Add it, as UNSIGNED8.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>0x1000, 0x1001 or 0x1018 is missing</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Every device has these objects, and masters read them at start. Add it.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>There is neither a heartbeat nor node guarding</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A master cannot see whether the device is alive. Add 0x1017, or 0x100C and 0x100D.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The default of a fixed sub-index 0 is not the highest sub-index</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools that go by it stop too early or ask for what is not there. State the highest sub-index below 255.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sub-index 0 of an array or record is not UNSIGNED8</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>CiA 301 demands that type, and a tool writes that length. Use 0005.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A VAR has no data type</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools do not know its length and refuse it. Add dataType or a parameter with one.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The data type of a variable is that of a record, or not known</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools do not know its length. Use a type of CiA 301 such as 0007.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A variable has no access type</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools refuse it or take it for read only. Add ro, wo, rw or const.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A variable can be neither read nor written</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Nobody can use it. State the access of its parameter, or remove it.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>dataType, accessType or defaultValue of an entry differs from its parameter</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools go by one or the other. State it at one place, or the same at both.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>An array or structure of the type list does not describe its object</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools go by one or the other. Write the same types and members at both places.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>An object of CiA 301 has another data type</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Masters access these objects with the standard&apos;s length. Use the standard&apos;s type.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>subNumber is not the number of sub-objects</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Something was added or removed by hand. Count sub-index 0, too.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A stated count of objects is not the number found</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Something was added or removed by hand. Count again, or remove the count.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 sub-index %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the PDO has no communication parameters %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the PDO has no mapping %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>it maps a dummy (%1), which only an RPDO can</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>it maps %1, which is not there</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>it maps %1 bits of %2, which is %3 with %4 bits</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>it maps %1 (line %2), whose PDOmapping is &quot;no&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>its entries have %1 bits together, more than %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 entries are active, but %2 is the highest sub-index</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>it maps nothing, but is one of %1 active entries</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>sub-index %1 is missing below %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>access &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>PDOmapping &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>PDOmapping &quot;%1&quot; does not go with %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>an RPDO maps %1 (line %2) with %3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a TPDO maps %1 (line %2) with %3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>transmission type %1 is reserved (241 to %2)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 names no node-ID from 1 to 127 in bits 16 to 23, or has bits above these</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A PDO has communication parameters without a mapping, or the reverse</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools cannot set the PDO up and skip it. Add the other object, 0x200 apart.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A PDO maps an object that is not there, or a TPDO a dummy</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools refuse the mapping. Mend its entry, or add the object.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A PDO maps another length than that of the object</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>All data behind it move. Write the length of the object&apos;s type in bits into the last two digits.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A PDO maps an object whose PDOmapping is &quot;no&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools refuse the mapping. Mend the PDOmapping of the object, or the mapping.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A PDO maps more than 64 bits</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A CAN frame has 8 bytes. Map less, or use another PDO.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sub-index 0 of a mapping counts entries that are not there or map nothing</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools refuse the mapping. State how many entries are in use.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The sub-indexes of a mapping have a gap</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools stop at the gap. Number the entries without one.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>An object is mapped, or can be mapped, in a direction that its access forbids</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>An RPDO writes objects and a TPDO reads them. Mend the access type, PDOmapping or mapping.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The transmission type of a PDO is reserved</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Devices refuse it. Use 0 to 240, 254 or 255, and 252 or 253 for a TPDO on request.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>An entry of 0x1016 has a node-ID above 127, or bits above it</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The heartbeat of no node can be meant. Write 0x00NNTTTT: node-ID and milliseconds.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is no %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is out of the range of %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is above %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is below %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 does not begin with $NODEID</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A default, an actual value or a limit is no value of its data type</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools refuse the file or take another value. Write numbers in decimal or with 0x, without a suffix.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A default, an actual value or a limit does not fit into its data type</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools cut it off or refuse it. Mend the value or the data type.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>lowLimit is above highLimit</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools that keep limits refuse every value. Exchange them; of a signed type, 0x80 and up may be meant as negative.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A default or actual value lies outside of its limits</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools that keep limits refuse the value. Mend one of them.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A value is written N+$NODEID</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools that follow the standard lose the node-ID. Write $NODEID+N.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>CIso15745Impl</name>
     <message>
         <source>Error while parsing TAG &lt;%1&gt; in line %2 : There is alrady a can open object with index %3 !</source>
@@ -976,49 +166,48 @@
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>mvxXddTools</name>
-    <message>
-        <source>The root element is &lt;%1&gt;, not &lt;%2&gt;.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A profile is of the technology &quot;%1&quot;, not &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <source>Nothing says that this is a CANopen description.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>No ProfileBody is of the type %1 or %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 sub-index %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cannot write the temporary file %1: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A bit rate is written in another way, such as 250, 250kBit/s or 1 Mbit/s: the format&apos;s</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the format&apos;s writing of the same rate, such as &quot;250 Kbps&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>TransportLayers, PhysicalLayer, baudRate, its defaultValue or every supportedBaudRate is missing: 250 Kbps; the default rate as the supported one</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the format&apos;s default is 250 Kbps</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A DeviceIdentity lacks vendorName or productName: an empty one</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1030,27 +219,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the format&apos;s default where the attribute is absent</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>readOnly is 1, 0 or has other capitals: true or false</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the format&apos;s writing of the same value</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>DeviceFunction, its capabilities, or the name, content or entry of its first characteristic is missing: an empty one</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a device without stated function has an empty one</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The capabilities have a standardComplianceList: a comment with its text, a blank inside of every &quot;--&quot;</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1058,15 +227,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>An object or sub-object has no name: an empty one</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>an entry without a name has an empty one</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>dataType (hexadecimal in the format), objectType, subNumber or a count of objects (decimal) has no prefix and would be read as another number or not at all: the same number with &quot;0x&quot;</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1074,23 +235,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>accessType or PDOmapping differs from a text of the format in capitals or blanks: that text</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>An object or sub-object with uniqueIDRef lacks dataType, accessType, defaultValue, actualValue, lowLimit or highLimit: what its parameter states</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>stated by the parameter that the entry refers to</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A profile header lacks a required element: an empty one; 1 for part and edition, CANopen for the technology</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Blanks or other capitals make ProfileClassID an unknown class: the class</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1106,15 +251,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>fileCreator, fileName or fileVersion is missing: an empty one</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>a required file attribute that states nothing is empty</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Parse error at line %1, column %2: %3</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1143,6 +280,994 @@
     </message>
     <message>
         <source>it is unknown or ambiguous</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is another kind of XML: the root element is &lt;%1&gt;, not &lt;%2&gt;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is a description of another technology: &quot;%1&quot;, not &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>COB-ID %1 lacks $NODEID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>COB-ID %1 has more than 11 bits, but bit 29 is not set</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>COB-ID %1 is restricted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>COB-ID %1 is also that of %2 (line %3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A COB-ID is restricted, has too many bits or lacks $NODEID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It collides with other services of the network or with a second device of the same type. Use the predefined one, such as $NODEID+0x180.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two producers of the device send with the same CAN-ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receivers cannot tell them apart. Give one of them another CAN-ID, or set bit 31 of the unused one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 bodies of the type %2 instead of one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is missing in &lt;%2&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; is missing in &lt;%2&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; has the prefix 0x</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not four hexadecimal digits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not a hexadecimal number up to FF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not an even number of hexadecimal digits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not a decimal number up to 255</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>subIndex &quot;%1&quot; does not have two digits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; of &lt;%3&gt; is not one of: %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>uniqueID &quot;%1&quot; duplicates line %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>uniqueIDRef &quot;%1&quot; of &lt;%2&gt; refers to nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>uniqueIDRef &quot;%1&quot; of &lt;%2&gt; refers to &lt;%3&gt; in line %4, which is not a parameter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is not well-formed XML or exceeds the limits for hostile files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No tool can read it. Fix the place that the message names.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The root, the technology or the bodies are not those of CANopen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No CANopen tool can use it. Check that it is the right file, and the xsi:type of its bodies.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A required element or attribute is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strict readers refuse the file. Add it; where there is nothing to say, an empty one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>index, subIndex, dataType, objFlags, objectType or subNumber is not written as the format demands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools read another number or none. Write index as four, subIndex as two and dataType as four hexadecimal digits without 0x, and the others in decimal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>subIndex does not have two digits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools that expect one byte skip the sub-object. Write two digits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>accessType, PDOmapping, access, versionType, a bit rate or a dummy entry is not a word of the format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools ignore it or refuse the file. Write one of the listed words, with its capitals.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A file date is not yyyy-MM-dd, or a file time not hh:mm:ss</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools lose it or refuse the file. Write it in that form.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A uniqueID is used twice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A reference to it means one element in one tool and the other in the next. Rename one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A uniqueIDRef refers to nothing. That of an object or sub-object also has to refer to a parameter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the reference should bring, such as the data type, is lost. Fix the ID or remove it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not the default %3 of %4 (line %5)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>vendorID &quot;%1&quot; is not a number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>vendorID is 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>vendorID or productID is not the default value of object 0x1018</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A tool that looks a device up by its identity does not find this description. Write the same number at both places.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>vendorID is not a number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools cannot compare it with a device. Write the number that CiA assigned.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>vendorName, vendorID, productName or productID is empty, or vendorID is 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Catalogues cannot list the device. Fill it in if it is known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is %2, but the number of PDOs is %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>granularity is 0 (fixed mappings), but every mapping can be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>granularity is %1, but no mapping can be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the default bit rate &quot;%1&quot; is not one of the supported: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not a number up to 127</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nrOfRxPDO or nrOfTxPDO is not the number of PDOs in the dictionary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools set up too many or too few PDOs. Count the objects from 0x1400 and 0x1800.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>granularity contradicts the access to the mappings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools offer a mapping that the device refuses, or none. 0 means fixed mappings, 8 whole bytes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No bit rate is supported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools cannot offer a bit rate, or refuse the file. List the supported ones.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The default bit rate is not one of the supported bit rates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A tool that picks it cannot reach the device. Correct one of them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The node-ID of the commissioning is not a number up to 127</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Node-IDs of CANopen are 1 to 127. Write one of them, or 0 for none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the object duplicates line %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the sub-object duplicates line %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the index is reserved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>objectType %1 is not allowed for a sub-object (2 or 7 is)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>objectType %1 is not allowed for an object (2 and 5 to 9 are)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 without sub-objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 with %n sub-object(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 without sub-index 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>object %1 is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is neither a heartbeat (0x1017) nor node guarding (0x100C and 0x100D)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the default %1 is not the highest sub-index %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>subNumber is %1, but the number of sub-objects is %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is %2, but the number of such objects is %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An object is there twice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse the file or keep either one. Remove or renumber one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A sub-object is there twice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools keep either one. Remove or renumber one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An index is above 0xBFFF, or below 0x1000 and not that of a data type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These indexes are reserved, and tools refuse them. Use another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>objectType is not an object code that CiA 301 allows there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools do not know what to do with the entry. 7 is VAR, 8 ARRAY, 9 RECORD, 2 DOMAIN.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An array or record has no sub-objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools cannot access anything of it. Add them, or make it a VAR (7).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A variable has sub-objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools drop them or refuse the file. Make it an ARRAY (8) or RECORD (9).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An array or record has no sub-index 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools read the number of elements from it. Add it as UNSIGNED8.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0x1000, 0x1001 or 0x1018 is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every device has these objects, and masters read them at start-up. Add it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is neither a heartbeat nor node guarding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A master cannot see whether the device is alive. Add 0x1017, or 0x100C and 0x100D.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The default value of a fixed sub-index 0 is not the highest sub-index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools stop too early or ask for what is not there. State the highest sub-index below 255.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>subNumber is not the number of sub-objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Something was added or removed by hand. Count again, with sub-index 0.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A stated number of objects is not the number in the dictionary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Something was added or removed by hand. Count again, or remove the number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the PDO has no communication parameters %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the PDO has no mapping %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a TPDO maps a dummy (%1), which only an RPDO can</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it maps %1, which does not exist</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it maps %1 bits of %2, which is %3 with %4 bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it maps %1 (line %2), whose PDOmapping is &quot;no&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the active entries have %1 bits in total, more than %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 entries are active, but %2 is the highest sub-index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it maps nothing, but is one of %1 active entries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sub-index %1 is missing below %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>access %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>access &quot;read&quot;, which is the default of its parameter (line %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDOmapping &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDOmapping &quot;%1&quot; contradicts %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an RPDO maps %1 (line %2), which has %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a TPDO maps %1 (line %2), which has %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>transmission type %1 is reserved (241 to %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no node-ID from 1 to 127 in bits 16 to 23, or has bits above these</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PDO has communication parameters without a mapping, or the reverse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools cannot set the PDO up and skip it. Add the other object, 0x200 apart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PDO maps an object that does not exist, or a TPDO a dummy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse the mapping. Correct its entry, or add the object.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PDO maps an object with a length other than that of its data type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All data behind it are shifted. Write the length of the data type in bits into the last two digits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PDO maps an object that must not be mapped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse the mapping. Correct the PDO mapping of the object, or the mapping.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PDO maps more than 64 bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A CAN frame has 8 bytes. Map less, or use another PDO.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sub-index 0 of a mapping counts entries that do not exist or map nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse the mapping. State how many entries are in use.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sub-indexes of a mapping have a gap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools stop at the gap. Number the entries without one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An object is mapped, or can be mapped, in a direction that its access does not allow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An RPDO writes objects and a TPDO reads them. Correct the access, PDOmapping or mapping.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The transmission type of a PDO is reserved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Devices refuse it. Use 0 to 240, 254 or 255, and 252 or 253 for a TPDO on request.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An entry of 0x1016 has a node-ID above 127, or bits above the node-ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It does not stand for the heartbeat of any node. Write 0x00NNTTTT: node-ID and milliseconds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the data type is %1 instead of UNSIGNED8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dataType &quot;%1&quot; is not a data type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>VAR without a data type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the data type %1 is that of a record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the data type %1 is unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no access type is stated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it can be neither read nor written: access is %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; differs from %3 of its parameter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; &quot;%2&quot; has the type %3, but %4 (line %5) has %6</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>the structure has %n member(s), but %1 (line %2) has another number of sub-objects: %3</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the data type is %1, but CiA 301 specifies %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sub-index 0 of an array or record is not UNSIGNED8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CiA 301 specifies that type, and tools access that length. Use 0005.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A VAR has no data type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools do not know its length and refuse it. Add dataType or a parameter with one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The data type of a variable is that of a record, or unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools do not know its length. Use a type of CiA 301 such as 0007.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A variable has no access type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse it or take it as read-only. Add ro, wo, rw or const.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A variable can be neither read nor written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody can use it. State the access of its parameter, or remove it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dataType, accessType or defaultValue of an entry differs from its parameter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools go by one or the other. State it once, or the same at both places.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An array or structure of the type list does not match its object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools go by one or the other. State the same types and members at both places.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An object of CiA 301 has another data type than the standard specifies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Masters access these objects with the length of the standard. Use its data type.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>default value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>actual value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>low limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>high limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 is not a value of %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 is outside the range of %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>low limit %1 is above high limit %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 is below low limit %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 is above high limit %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 does not begin with $NODEID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A default value, actual value or limit is not a value of its data type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse the file or take another value. Write numbers in decimal or with 0x, without a suffix.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A default value, actual value or limit does not fit into its data type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools cut it off or refuse it. Correct the value or the data type.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The low limit is above the high limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools that respect limits refuse every value. Exchange them; with a signed type, 0x80 and up may be meant as negative.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A default or actual value is outside its limits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools that respect limits refuse the value. Correct one of them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A value is written N+$NODEID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools that follow the standard lose the node-ID. Write $NODEID+N.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; (line %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is a binary file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is not XML: it begins with &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no memory for a copy of %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left out: it has no sub-objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the sub-objects of a variable are left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left out: an EDS cannot have this sub-index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left out: it is there already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left out: an EDS cannot have this index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left out: an EDS cannot have the object code %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an EDS has no key for the bit rate &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the values of an array or record itself are left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mapping and limits of a DOMAIN are left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>actual value and denotation are left out, they belong into a DCF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has no data type and is written as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has no access and is written as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an EDS cannot say %1 together with PDOmapping %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDOmapping &quot;%1&quot; is unknown and is written as 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not a value of %3 and is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is written without its suffix</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>limits are left out because the low one is above the high one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>spaces around a text or control characters in it are lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;;&quot;, &quot;#&quot; or a leading quote of a text is replaced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a text is cut, a line has 255 characters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a text has characters outside ASCII and is written as UTF-8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A bit rate is written otherwise, such as 250, 250kBit/s or 1 Mbit/s: it gets the writing of the format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the format writes the same rate in this way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TransportLayers, PhysicalLayer, baudRate, its defaultValue or every supportedBaudRate is missing: 250 Kbps, or the default rate as the supported one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the default of the format is 250 Kbps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1=&quot;%2&quot; of &lt;%3&gt; supplied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; supplied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A DeviceIdentity lacks vendorName or productName: it gets an empty one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the default of the format where the attribute is absent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the format writes the same value in this way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DeviceFunction, its capabilities, or the name, content or entry of its first characteristic is missing: it gets an empty one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a device that states no function has an empty one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The capabilities have a standardComplianceList: it becomes a comment, with a space inside every &quot;--&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An object or sub-object has no name: it gets an empty one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dataType (hexadecimal in the format), objectType, subNumber or a number of objects (decimal) has no prefix and would be read as another number or not at all: it gets &quot;0x&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>accessType or PDOmapping differs from a word of the format in capitals or spaces: it gets that word</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An object or sub-object with uniqueIDRef lacks dataType, accessType, defaultValue, actualValue, lowLimit or highLimit: it gets what its parameter states</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A profile header lacks a required element: it gets an empty one, 1 for part and edition, and CANopen for the technology</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spaces or other capitals make ProfileClassID an unknown class: it gets that class</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fileCreator, fileName or fileVersion is missing: it gets an empty one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the profile has no header or no body</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the network profile has no objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; is not a label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the index is not readable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; does not match &lt;%2&gt; in line %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left as it is, so the copy does not load</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left out</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1193,15 +1318,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>line %1</source>
-        <comment>as in the library&apos;s messages</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1, and %2 more like this up to line %3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1: Cannot write: %2</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1209,31 +1325,8 @@
         <source>No file is named.</source>
         <translation type="unfinished"></translation>
     </message>
-</context>
-<context>
-    <name>xdd2eds</name>
     <message>
-        <source>%1: %2 entries</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: %2 entries, %3 of them not wholly said in an EDS</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Writes CANopen device descriptions in the INI form (EDS, CiA 306).</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A description; - is standard input. The EDS of one goes to standard output by itself.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Write the EDS of the one FILE to OUT; - is standard output.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Write the EDS files to DIR, under the names of the files with .eds.</source>
+        <source>Only one of --output and --output-dir is allowed.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1241,44 +1334,55 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Report everything by itself that an EDS cannot say.</source>
+        <source>Only one of --output, --output-dir and --in-place is allowed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Written: %1. Not written: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>xdd2eds</name>
+    <message>
+        <source>Writes CANopen device descriptions in the INI form (EDS, CiA 306).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the EDS of the one FILE to OUT; - is standard output.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Report nothing.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message numerus="yes">
+        <source>%1: %n entry(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n of them not fully represented</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Only one of --output and --output-dir can be meant.</source>
+        <source>A description; - is standard input. The EDS of one goes to standard output unless it is named.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the EDS files to DIR, named as the files with .eds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report every loss separately.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>xddcheck</name>
-    <message>
-        <source>1 error</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 errors</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 warning</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 warnings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 note</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 notes</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <source>Says what is wrong with CANopen device descriptions.</source>
         <translation type="unfinished"></translation>
@@ -1288,35 +1392,53 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Print the findings as text, as json (one object on each line) or as sarif (2.1.0).</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Leave rules out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Take every warning for an error.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Print every finding by itself.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Print no sums on standard error.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Print the rules, why they matter and what to do.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message numerus="yes">
+        <source>%n error(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n warning(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
     <message>
-        <source>&apos;%1&apos; is no format.</source>
+        <source>Print the findings as text, as json (one object per line) or as sarif (2.1.0).</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no rule.</source>
+        <source>Do not apply rules.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Treat every warning as an error.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print every finding separately.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do not print totals.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a rule.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1420,10 +1542,6 @@
     </message>
     <message>
         <source>Index</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sub</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1587,46 +1705,48 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Sub-object %1 of %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: %2 place is not written as the format does and is read as it is meant; &apos;xddnormalize --dry-run&apos; shows it.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: %2 places are not written as the format does and are read as they are meant; &apos;xddnormalize --dry-run&apos; lists them.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Without --strict it is shown; xddnormalize writes a copy that loads.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A description; - is standard input. Without one the embedded sample is shown.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show objects in full, in hexadecimal: 0x1018, 1018h, 0x1018:1, 0x1018sub1 or 0x1800-0x1803. May be given several times.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Read the files exactly as the library does, not as xddnormalize would write them.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sub-object %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n place(s) not written as the format does, read as meant; &apos;xddnormalize --dry-run&apos; lists them.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No file is named; --sample shows the embedded sample.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A description; - is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show objects in full, in hexadecimal: 0x1018, 1018h, 0x1018:01, 0x1018sub1 or 0x1800-0x1803. May be given several times.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the sample that the library carries.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>xddnormalize</name>
     <message>
-        <source>%1: %2 changes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Write the copy of the one FILE to OUT; - is standard output.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Write the copies under the names of the files to DIR.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1634,39 +1754,37 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Write nothing, only report.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Report every change by itself.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Report no changes.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Writes copies of CANopen device descriptions in the form that the library reads.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A description; - is standard input. The copy of one goes to standard output by itself.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Only one of --output, --output-dir and --in-place can be meant.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: %2 change</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>It still does not load: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Print what is changed in a description, and why.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n change(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: The copy does not load, because of what was left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes copies of CANopen device descriptions for programs that use the strict load of the library. They are not for publishing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A description; - is standard input. The copy of one goes to standard output unless it is named.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the copies to DIR, named as the files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report every change separately.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -1,13 +1,13 @@
 #ifndef MVXXDDTOOLS_CDESCRIPTION_H
 #define MVXXDDTOOLS_CDESCRIPTION_H
 
-#include "canopen/CParameter.h"
-#include "text/CXmlText.h"
+#include "canopen/CDictionary.h"
+#include "canopen/CReferences.h"
+#include "canopen/Pdos.h"
+#include "text/CXmlTree.h"
 
-#include <QHash>
 #include <QString>
 
-#include <optional>
 #include <vector>
 
 /** The two kinds of profile that a CANopen description has. */
@@ -26,70 +26,59 @@ struct SProfile
     CXmlElement body;
 };
 
-/** One "CANopenObject" or "CANopenSubObject". */
-struct SEntry
-{
-    CXmlElement element;
-    CParameter parameter; ///< What its "uniqueIDRef" names, if that is a parameter
-};
-
-/** A CANopen description in the words of its format: what of it stands where in the text. */
+/** A CANopen description as CiA 301 and its format mean it: what of it stands where in the text, and what holds. */
 class CDescription
 {
 public:
-    /** Reads a text with an element at its root; both have to outlive the description. */
-    explicit CDescription(const CXmlText& text);
-    CDescription(const CDescription&) = delete; // Its parameters refer to it
+    /** Reads a text with an element at its root, which has to outlive the description. */
+    explicit CDescription(const CXmlTree& tree);
+    CDescription(const CDescription&) = delete; // PDOs refer to the dictionary
     CDescription(CDescription&&) = delete;
     CDescription& operator=(const CDescription&) = delete;
     CDescription& operator=(CDescription&&) = delete;
     ~CDescription() = default;
 
-    CXmlElement root() const;
+    const CXmlTree& tree() const { return mTree; }
+    CXmlElement root() const { return mTree.root(); }
 
     /**
      * True for a container whose profiles all state the technology CANopen, or state none and are CANopen by their
-     * content; otherwise false, with the reason.
+     * content; otherwise false, with the reason and its place.
      */
-    bool isCanOpen(QString& errorText) const;
+    bool isCanOpen(CXddRemark& failure) const;
 
     /** The bodies whose "xsi:type" is that, whatever its prefix. */
     std::vector<CXmlElement> bodiesOfType(QLatin1String type) const;
-    /** True when there is a body of one of the two types of CANopen; otherwise false, with the reason. */
-    bool hasTypedBody(QString& errorText) const;
 
     /** Every profile with a header and a body, in document order. */
-    const std::vector<SProfile>& profiles() const;
+    const std::vector<SProfile>& profiles() const { return mProfiles; }
     /** The bodies of the profiles of a kind. */
     std::vector<CXmlElement> bodies(EProfile kind) const;
+    /** The first body of a kind, or a null element. */
+    CXmlElement body(EProfile kind) const;
+
+    /** What a remark about an element names: the entry that stands in it, if there is one. */
+    SPlace placeOf(const CXmlElement& element) const;
 
     /** Every "CANopenObjectList". */
     std::vector<CXmlElement> objectLists() const;
     /** Every "baudRate" of the physical layer. */
     std::vector<CXmlElement> bitRates() const;
-    /** Every object of the lists, each followed by its sub-objects. */
-    const std::vector<SEntry>& entries() const;
+    /** The identities of both profiles, that of the device first. */
+    std::vector<CXmlElement> identities() const;
+    /** Every element with that name in the network management. */
+    std::vector<CXmlElement> managementElements(QLatin1String name) const;
 
-    /** Every element of the text in document order. */
-    std::vector<CXmlElement> elements() const;
-
-    /** The first element with that "uniqueID". */
-    CXmlElement byUniqueId(const QString& id) const;
-    /** The index of the data type, such as "0x0007", of a parameter or of a type that it refers to, if that is one
-     * simple type; @p isBlock for an object that is a block of data. */
-    QString simpleTypeOf(const CXmlElement& described, bool isBlock) const;
-    /** The parameter that an element refers to. */
-    CParameter parameterOf(const CXmlElement& element) const;
+    const CReferences& references() const { return mReferences; }
+    const CDictionary& dictionary() const { return mDictionary; }
+    const std::vector<SPdo>& pdos() const { return mPdos; }
 
 private:
-    std::optional<QString> findSimpleType(const CXmlElement& described, bool isBlock, int depth) const;
-
-    const CXmlText& mText;
-    CXmlElement mRoot;
-    QHash<QString, CXmlElement> mByUniqueId;
+    const CXmlTree& mTree;
+    CReferences mReferences;
     std::vector<SProfile> mProfiles;
-    std::vector<SEntry> mEntries;
-    mutable QHash<int, QString> mSimpleTypes[2]; // By where a type begins: those that were found, and those of blocks
+    CDictionary mDictionary;
+    std::vector<SPdo> mPdos;
 };
 
 #endif

@@ -1,17 +1,16 @@
 #include "canopen/CDictionary.h"
 
-#include "CCanOpenNames.h"
 #include "CXmlValue.h"
 #include "NIso15745Tags.h"
+#include "canopen/DataTypes.h"
+#include "canopen/NFormatWords.h"
 #include "canopen/ObjectCodes.h"
-#include "canopen/ProcessNames.h"
 
-#include <QCoreApplication>
-
+#include <algorithm>
 #include <climits>
 
 using namespace NIso15745Tags;
-using namespace NProcessNames;
+using namespace NFormatWords;
 
 namespace
 {
@@ -20,166 +19,222 @@ quint64 keyOf(unsigned int index, unsigned int subIndex)
     return quint64(index) << 32U | subIndex;
 }
 
-// What the attribute of an entry states, or else the value of an element of its parameter.
-SStated stated(const CXmlElement& entry, QLatin1String attribute, const CXmlElement& inParameter)
+SValueProperty valueOf(const CXmlElement& element, QLatin1String attribute, unsigned int dataType)
 {
-    if (entry.has(attribute)) {
-        return {entry.attribute(attribute), entry};
+    SValueProperty property;
+    property.text = element.attribute(attribute);
+    if (!property.text.isNull()) {
+        property.source = element;
+        property.value = property.isGiven() ? CValue::read(property.text, dataType) : std::nullopt;
     }
-    return {inParameter.attribute(ATTR_VALUE), inParameter};
+    return property;
 }
 
-// Without an access of its own a parameter can be read.
-SStated accessOf(const CXmlElement& entry, const CParameter& parameter)
+// A value of the entry, else that of an element of its parameter.
+SValueProperty valueOf(
+    const CXmlElement& entry, QLatin1String attribute, const CXmlElement& inParameter, unsigned int dataType)
 {
-    if (!entry.attribute(ATTR_ACCESS_TYPE).isEmpty()) {
-        return {entry.attribute(ATTR_ACCESS_TYPE), entry};
-    }
-    if (parameter.isNull()) {
-        return {};
-    }
-    const QString access = parameter.element().attribute(ATTR_ACCESS);
-    if (access.isNull()) {
-        return {VAL_OBJ_ACCESS_RO, parameter.element()};
-    }
-    const QString known = parameter.accessType();
-    return {known.isEmpty() ? access : known, parameter.element()};
+    const SValueProperty own = valueOf(entry, attribute, dataType);
+    return own.text.isNull() && !inParameter.isNull() ? valueOf(inParameter, ATTR_VALUE, dataType) : own;
 }
 
-SDictionaryEntry entryOf(const SEntry& entry)
+// A range of a parameter; only one is a limit, of several none is.
+CXmlElement rangeOf(const CXmlElement& parameter)
 {
-    SDictionaryEntry result;
-    result.element = entry.element;
-    result.parameter = entry.parameter;
-    result.isSubObject = entry.element.is(TAG_CAN_OPEN_SUB_OBJECT);
-    const QString objectType = entry.element.attribute(ATTR_OBJECT_TYPE);
-    const bool hasPrefix = hasHexadecimalPrefix(objectType.trimmed());
-    result.objectType = CXmlValue::toNumber(objectType, hasPrefix ? 16 : 10, UCHAR_MAX).value_or(0);
-    const QString ownType = entry.element.attribute(ATTR_DATA_TYPE);
-    result.ownsDataType = !ownType.isEmpty();
-    result.dataType =
-        CXmlValue::toNumber(
-            result.ownsDataType ? ownType : entry.parameter.dataType(entry.element.attribute(ATTR_OBJECT_TYPE)), 16)
-            .value_or(0);
-    result.access = accessOf(entry.element, entry.parameter);
-    result.lowLimit = stated(entry.element, ATTR_LOW_LIMIT, entry.parameter.lowLimit());
-    result.highLimit = stated(entry.element, ATTR_HIGH_LIMIT, entry.parameter.highLimit());
-    result.defaultValue = stated(entry.element, ATTR_DEFAULT_VALUE, entry.parameter.defaultValue());
-    result.actualValue = stated(entry.element, ATTR_ACTUAL_VALUE, entry.parameter.actualValue());
-    result.mapping = entry.element.attribute(ATTR_PDO_MAPPING);
-    if (result.defaultValue.isGiven()) {
-        result.value = CValue::read(result.defaultValue.text, result.dataType);
+    const CXmlElement values = parameter.child(TAG_ALLOWED_VALUES);
+    const CXmlElement first = values.child(TAG_RANGE);
+    for (CXmlElement other = first.nextSibling(); !other.isNull(); other = other.nextSibling()) {
+        if (other.is(TAG_RANGE)) {
+            return {};
+        }
     }
-    return result;
+    return first;
+}
+
+// A parameter that states no access can be read. What has sub-objects has no access of its own.
+SProperty<EAccess> accessInParameter(const CXmlElement& parameter, bool isVariable)
+{
+    SProperty<EAccess> access;
+    access.text = parameter.attribute(ATTR_ACCESS);
+    const bool isStated = !access.text.trimmed().isEmpty();
+    if (!parameter.isNull() && (isStated || isVariable)) {
+        access.value = isStated ? accessOfParameter(access.text) : EAccess::ReadOnly;
+        access.source = parameter;
+    }
+    return access;
+}
+
+SProperty<unsigned int> typeOf(const CXmlElement& element, const CXmlElement& parameter, unsigned int parameterType)
+{
+    const QString own = element.attribute(ATTR_DATA_TYPE);
+    if (!own.isEmpty()) {
+        return {CXmlValue::toNumber(own, HEXADECIMAL).value_or(0), own, element};
+    }
+    return parameterType == 0 ? SProperty<unsigned int>() : SProperty<unsigned int>{parameterType, {}, parameter};
+}
+
+// By its prefix: the format writes it in decimal.
+std::optional<unsigned int> codeOf(const CXmlElement& element)
+{
+    const QString text = element.attribute(ATTR_OBJECT_TYPE);
+    return CXmlValue::toNumber(text, hasHexadecimalPrefix(text.trimmed()) ? HEXADECIMAL : DECIMAL, UCHAR_MAX);
+}
+
+SEntry entryOf(const CXmlElement& element, bool isVariable, CReferences& references)
+{
+    SEntry entry;
+    entry.element = element;
+    entry.isSubObject = element.is(TAG_CAN_OPEN_SUB_OBJECT);
+    entry.objectCode = codeOf(element);
+    entry.name = element.attribute(ATTR_NAME);
+    entry.mapping = mappingOf(element.attribute(ATTR_PDO_MAPPING));
+    entry.parameter = references.parameterOf(element);
+    const CXmlElement& parameter = entry.parameter;
+    if (!parameter.isNull()) {
+        entry.parameterType = references.simpleTypeOf(parameter, entry.objectCode == CODE_DOMAIN);
+    }
+    entry.dataType = typeOf(element, parameter, entry.parameterType);
+    const QString access = element.attribute(ATTR_ACCESS_TYPE);
+    entry.access = access.isEmpty() ? accessInParameter(parameter, isVariable)
+                                    : SProperty<EAccess>{accessOfEntry(access), access, element};
+    const unsigned int type = entry.dataType.value;
+    const CXmlElement range = rangeOf(parameter);
+    entry.lowLimit = valueOf(element, ATTR_LOW_LIMIT, range.child(TAG_MIN_VALUE), type);
+    entry.highLimit = valueOf(element, ATTR_HIGH_LIMIT, range.child(TAG_MAX_VALUE), type);
+    entry.defaultValue = valueOf(element, ATTR_DEFAULT_VALUE, parameter.child(ATTR_DEFAULT_VALUE), type);
+    entry.actualValue = valueOf(element, ATTR_ACTUAL_VALUE, parameter.child(ATTR_ACTUAL_VALUE), type);
+    return entry;
+}
+
+SEntry entryOf(const CCanOpenSubObject& record)
+{
+    const auto value = [&record](const QString& text) {
+        return SValueProperty{
+            text.isEmpty() ? std::nullopt : CValue::read(text, record.mDataType),
+            text.isEmpty() ? QString() : text,
+            {}};
+    };
+    SEntry entry;
+    entry.objectCode = record.mObjectType;
+    entry.name = record.mName;
+    entry.mapping = mappingOf(CCanOpenSubObject::pdoMappingAsStr(record.mPdoMapping));
+    entry.dataType.value = record.mDataType;
+    entry.access.value = accessOfEntry(CCanOpenSubObject::accessTypeAsStr(record.mAccessType));
+    entry.lowLimit = value(record.mLowLimit);
+    entry.highLimit = value(record.mHighLimit);
+    entry.defaultValue = value(record.mDefaultValue);
+    entry.actualValue = value(record.mActualValue);
+    return entry;
+}
+
+std::optional<CValue> wholeNumber(const SValueProperty& property, unsigned int dataType)
+{
+    const std::optional<CValue> value = valueKind(dataType) == EValueKind::None && property.isGiven()
+                                            ? CValue::read(property.text, TYPE_UNSIGNED32)
+                                            : property.value;
+    return value && value->isInteger() ? value : std::nullopt;
 }
 } // namespace
 
-bool SStated::isGiven() const
+SPlace SEntry::place() const
 {
-    return !text.isEmpty();
+    SPlace place = element.place();
+    place.isEntry = true;
+    place.isSubObject = isSubObject;
+    place.index = index;
+    place.subIndex = subIndex;
+    return place;
 }
 
-bool SDictionaryEntry::isVariable() const
+std::optional<CInteger> SEntry::plainDefault() const
 {
-    return isSubObject || subObjects == 0;
+    return defaultValue.value ? defaultValue.value->plain() : std::nullopt;
 }
 
-bool SDictionaryEntry::isArrayOrRecord() const
+std::optional<CValue> SEntry::current() const
 {
-    return !isSubObject && (objectType == CODE_ARRAY || objectType == CODE_RECORD);
+    const std::optional<CValue> actual = wholeNumber(actualValue, dataType.value);
+    return actual ? actual : wholeNumber(defaultValue, dataType.value);
 }
 
-bool SDictionaryEntry::isMappable() const
+CDictionary::CDictionary(const std::vector<CXmlElement>& lists, CReferences& references)
 {
-    return !mapping.isEmpty() && mapping != VAL_OBJ_E_MAP_NO;
-}
-
-bool SDictionaryEntry::isReadable() const
-{
-    return access.text == VAL_OBJ_ACCESS_RO || access.text == VAL_OBJ_ACCESS_RW || access.text == VAL_OBJ_ACCESS_CONST;
-}
-
-bool SDictionaryEntry::isWritable() const
-{
-    return access.text == VAL_OBJ_ACCESS_WO || access.text == VAL_OBJ_ACCESS_RW;
-}
-
-QString SDictionaryEntry::name() const
-{
-    QString indexText = index ? CCanOpenNames::index(*index) : QStringLiteral("?");
-    if (!isSubObject) {
-        return indexText;
-    }
-    return QCoreApplication::translate("mvxXddTools", "%1 sub-index %2")
-        .arg(indexText, subIndex ? QString::number(*subIndex) : QStringLiteral("?"));
-}
-
-std::optional<CInteger> SDictionaryEntry::plainDefault() const
-{
-    return value && value->isInteger() && !value->usesNodeId() ? std::optional<CInteger>(value->base()) : std::nullopt;
-}
-
-CDictionary::CDictionary(const CDescription& description)
-{
-    mEntries.reserve(description.entries().size());
-    for (const SEntry& entry : description.entries()) {
-        SDictionaryEntry added = entryOf(entry);
-        const std::size_t number = mEntries.size();
-        if (added.isSubObject) {
-            added.object = mObjects.back();
-            SDictionaryEntry& object = mEntries[added.object];
-            ++object.subObjects;
-            added.index = object.index;
-            added.subIndex = CXmlValue::toNumber(entry.element.attribute(ATTR_SUB_INDEX), 16);
-            if (added.index && added.subIndex && !mBySubIndex.contains(keyOf(*added.index, *added.subIndex))) {
-                mBySubIndex.insert(keyOf(*added.index, *added.subIndex), number);
-            }
-        } else {
-            added.object = number;
-            added.index = CXmlValue::toNumber(entry.element.attribute(ATTR_INDEX), 16);
-            mObjects.push_back(number);
-            if (added.index && !mByIndex.contains(*added.index)) {
-                mByIndex.insert(*added.index, number);
+    for (const CXmlElement& list : lists) {
+        for (const CXmlElement& object : list.children(TAG_CAN_OPEN_OBJECT)) {
+            const std::vector<CXmlElement> subObjects = object.children(TAG_CAN_OPEN_SUB_OBJECT);
+            SEntry added = entryOf(object, subObjects.empty(), references);
+            added.index = CXmlValue::toNumber(object.attribute(ATTR_INDEX), HEXADECIMAL);
+            add(std::move(added));
+            for (const CXmlElement& subObject : subObjects) {
+                added = entryOf(subObject, true, references);
+                added.subIndex = CXmlValue::toNumber(subObject.attribute(ATTR_SUB_INDEX), HEXADECIMAL);
+                add(std::move(added));
             }
         }
-        mEntries.push_back(std::move(added));
     }
 }
 
-const std::vector<SDictionaryEntry>& CDictionary::entries() const
+CDictionary::CDictionary(const QMap<unsigned int, CCanOpenObject>& objects)
 {
-    return mEntries;
+    for (const CCanOpenObject& object : objects) {
+        SEntry added = entryOf(object);
+        added.index = object.mIndex;
+        add(std::move(added));
+        for (const CCanOpenSubObject& subObject : object.mSubObjects) {
+            added = entryOf(subObject);
+            added.isSubObject = true;
+            added.subIndex = subObject.mIndex;
+            add(std::move(added));
+        }
+    }
 }
 
-const std::vector<std::size_t>& CDictionary::objects() const
+// Sub-objects belong to the object that was added last.
+void CDictionary::add(SEntry entry)
 {
-    return mObjects;
+    const std::size_t number = mEntries.size();
+    if (entry.isSubObject) {
+        entry.object = mObjects.back();
+        SEntry& object = mEntries[entry.object];
+        ++object.subObjects;
+        entry.index = object.index;
+        if (entry.index && entry.subIndex && !mBySubIndex.contains(keyOf(*entry.index, *entry.subIndex))) {
+            mBySubIndex.insert(keyOf(*entry.index, *entry.subIndex), number);
+        }
+    } else {
+        entry.object = number;
+        mObjects.push_back(number);
+        if (entry.index && !mByIndex.contains(*entry.index)) {
+            mByIndex.insert(*entry.index, number);
+        }
+    }
+    mEntries.push_back(std::move(entry));
 }
 
-const SDictionaryEntry* CDictionary::object(unsigned int index) const
+const SEntry* CDictionary::object(unsigned int index) const
 {
     const auto found = mByIndex.constFind(index);
     return found == mByIndex.constEnd() ? nullptr : &mEntries[*found];
 }
 
-const SDictionaryEntry* CDictionary::subObject(unsigned int index, unsigned int subIndex) const
+const SEntry* CDictionary::subObject(unsigned int index, unsigned int subIndex) const
 {
     const auto found = mBySubIndex.constFind(keyOf(index, subIndex));
     return found == mBySubIndex.constEnd() ? nullptr : &mEntries[*found];
 }
 
-const SDictionaryEntry* CDictionary::variable(unsigned int index, unsigned int subIndex) const
+const SEntry* CDictionary::variable(unsigned int index, unsigned int subIndex) const
 {
-    const SDictionaryEntry* const found = object(index);
+    const SEntry* const found = object(index);
     if (found != nullptr && found->isVariable()) {
         return subIndex == 0 ? found : nullptr;
     }
     return subObject(index, subIndex);
 }
 
-std::vector<const SDictionaryEntry*> CDictionary::subObjects(const SDictionaryEntry& object) const
+std::vector<const SEntry*> CDictionary::subObjects(const SEntry& object) const
 {
-    std::vector<const SDictionaryEntry*> found;
+    std::vector<const SEntry*> found;
     const std::size_t last = object.object + std::size_t(object.subObjects);
     for (std::size_t number = object.object + 1; number <= last; ++number) {
         found.push_back(&mEntries[number]);
@@ -187,7 +242,20 @@ std::vector<const SDictionaryEntry*> CDictionary::subObjects(const SDictionaryEn
     return found;
 }
 
-const SDictionaryEntry& CDictionary::objectOf(const SDictionaryEntry& entry) const
+const SEntry* CDictionary::entryIn(const CXmlElement& element) const
 {
-    return mEntries[entry.object];
+    const auto found =
+        std::lower_bound(mEntries.begin(), mEntries.end(), element.range().begin, [](const SEntry& entry, int begin) {
+            return entry.element.range().begin < begin;
+        });
+    return found != mEntries.end() && found->element == element ? &*found : nullptr;
+}
+
+SProperties CDictionary::fromParameter(const SEntry& entry)
+{
+    SProperties stated;
+    stated.dataType = typeOf({}, entry.parameter, entry.parameterType);
+    stated.access = accessInParameter(entry.parameter, entry.isVariable());
+    stated.defaultValue = valueOf(entry.parameter.child(ATTR_DEFAULT_VALUE), ATTR_VALUE, entry.dataType.value);
+    return stated;
 }

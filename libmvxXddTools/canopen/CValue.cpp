@@ -27,9 +27,12 @@ std::optional<quint64> digits(const QString& text, int base)
 // Takes the node-ID off a sum with it. Returns the text itself where there is none.
 QString withoutNodeId(const QString& text, bool& usesNodeId, bool& isLast)
 {
-    const QString sum = text.simplified().remove(QLatin1Char(' '));
-    usesNodeId = true;
+    usesNodeId = text.contains(NODE_ID.at(0));
     isLast = false;
+    if (!usesNodeId) {
+        return text;
+    }
+    const QString sum = text.simplified().remove(QLatin1Char(' '));
     if (sum.compare(NODE_ID, Qt::CaseInsensitive) == 0) {
         return QStringLiteral("0");
     }
@@ -91,15 +94,15 @@ bool hasHexadecimalPrefix(const QString& text)
     return text.startsWith(HEXADECIMAL_PREFIX, Qt::CaseInsensitive);
 }
 
+QString hexadecimalText(quint64 number, int digits)
+{
+    return HEXADECIMAL_PREFIX + QString::number(number, 16).toUpper().rightJustified(digits, QLatin1Char('0'));
+}
+
 CInteger::CInteger(bool isNegative, quint64 magnitude)
     : mIsNegative(isNegative && magnitude != 0)
     , mMagnitude(magnitude)
 {}
-
-bool CInteger::isNegative() const
-{
-    return mIsNegative;
-}
 
 quint64 CInteger::magnitude() const
 {
@@ -111,13 +114,15 @@ CInteger CInteger::plus(unsigned int number) const
     if (mIsNegative) {
         return number < mMagnitude ? CInteger(true, mMagnitude - number) : CInteger(false, number - mMagnitude);
     }
-    const quint64 sum = mMagnitude + number;
-    return {false, sum < mMagnitude ? std::numeric_limits<quint64>::max() : sum};
+    CInteger sum(false, mMagnitude + number);
+    sum.mHasCarry = sum.mMagnitude < mMagnitude;
+    return sum;
 }
 
-QString CInteger::text() const
+std::optional<unsigned int> CInteger::unsigned32() const
 {
-    return (mIsNegative ? QStringLiteral("-") : QString()) + QString::number(mMagnitude);
+    const bool fits = !mIsNegative && !mHasCarry && mMagnitude <= std::numeric_limits<quint32>::max();
+    return fits ? std::optional<unsigned int>(static_cast<unsigned int>(mMagnitude)) : std::nullopt;
 }
 
 bool CInteger::operator<(const CInteger& other) const
@@ -125,17 +130,15 @@ bool CInteger::operator<(const CInteger& other) const
     if (mIsNegative != other.mIsNegative) {
         return mIsNegative;
     }
+    if (mHasCarry != other.mHasCarry) {
+        return other.mHasCarry;
+    }
     return mIsNegative ? other.mMagnitude < mMagnitude : mMagnitude < other.mMagnitude;
 }
 
 bool CInteger::operator==(const CInteger& other) const
 {
-    return mIsNegative == other.mIsNegative && mMagnitude == other.mMagnitude;
-}
-
-bool CInteger::operator!=(const CInteger& other) const
-{
-    return !(*this == other);
+    return mIsNegative == other.mIsNegative && mHasCarry == other.mHasCarry && mMagnitude == other.mMagnitude;
 }
 
 std::optional<CValue> CValue::read(const QString& text, unsigned int dataType)
@@ -145,6 +148,7 @@ std::optional<CValue> CValue::read(const QString& text, unsigned int dataType)
     const QString trimmed = text.trimmed();
     switch (valueKind(dataType)) {
     case EValueKind::None:
+    case EValueKind::Record:
     case EValueKind::Text:
         return value;
     case EValueKind::Real: {
@@ -175,31 +179,6 @@ std::optional<CValue> CValue::read(const QString& text, unsigned int dataType)
     }
     value.mInteger = *number;
     return value;
-}
-
-bool CValue::isInteger() const
-{
-    return mKind == EKind::Integer;
-}
-
-bool CValue::usesNodeId() const
-{
-    return mUsesNodeId;
-}
-
-bool CValue::isNodeIdLast() const
-{
-    return mIsNodeIdLast;
-}
-
-CInteger CValue::base() const
-{
-    return mInteger;
-}
-
-CInteger CValue::at(unsigned int nodeId) const
-{
-    return mUsesNodeId ? mInteger.plus(nodeId) : mInteger;
 }
 
 quint64 CValue::bits() const
@@ -236,6 +215,11 @@ bool CValue::operator==(const CValue& other) const
         return mInteger == other.mInteger && mUsesNodeId == other.mUsesNodeId;
     }
     return mText == other.mText;
+}
+
+std::optional<CInteger> CValue::plain() const
+{
+    return isInteger() && !mUsesNodeId ? std::optional<CInteger>(mInteger) : std::nullopt;
 }
 
 std::optional<CInteger> readInteger(const QString& text)

@@ -6,28 +6,32 @@
 
 #include <optional>
 
-/** A whole number from -2^64 to 2^64, exact: no machine type holds all values of the 64-bit types of CiA 301. */
+/** A whole number of a sign and 64 bits, exact: no machine type holds all values of the 64-bit types of CiA 301. */
 class CInteger
 {
 public:
     CInteger() = default;
     CInteger(bool isNegative, quint64 magnitude);
 
-    bool isNegative() const;
+    bool isNegative() const { return mIsNegative; }
     quint64 magnitude() const;
 
-    /** The sum with a small positive number; a sum beyond the range is the highest value. */
+    /** The sum with a small positive number. One that needs a 65th bit is above all others. */
     CInteger plus(unsigned int number) const;
 
+    /** The number as 32 bits without a sign; nothing for any other. */
+    std::optional<unsigned int> unsigned32() const;
+
     /** As a signed decimal number. */
-    QString text() const;
+    QString text() const { return (mIsNegative ? QStringLiteral("-") : QString()) + QString::number(mMagnitude); }
 
     bool operator<(const CInteger& other) const;
     bool operator==(const CInteger& other) const;
-    bool operator!=(const CInteger& other) const;
+    bool operator!=(const CInteger& other) const { return !(*this == other); }
 
 private:
     bool mIsNegative = false;
+    bool mHasCarry = false; // The 65th bit of a sum
     quint64 mMagnitude = 0;
 };
 
@@ -44,6 +48,9 @@ constexpr QLatin1String HEXADECIMAL_PREFIX("0x", 2);
 /** True for a text that begins with that mark, in either case. */
 bool hasHexadecimalPrefix(const QString& text);
 
+/** A number as "0x" and at least so many upper-case hexadecimal digits. */
+QString hexadecimalText(quint64 number, int digits);
+
 /**
  * The value of a text of a description, as the data type of its entry makes it: a default or actual value, or a limit.
  *
@@ -57,16 +64,16 @@ public:
     static std::optional<CValue> read(const QString& text, unsigned int dataType);
 
     /** True for a whole number, a boolean included. */
-    bool isInteger() const;
+    bool isInteger() const { return mKind == EKind::Integer; }
     /** True when the value depends on the node-ID. */
-    bool usesNodeId() const;
+    bool usesNodeId() const { return mUsesNodeId; }
     /** True for "N+$NODEID", the other way round than the standard writes it. */
-    bool isNodeIdLast() const;
+    bool isNodeIdLast() const { return mIsNodeIdLast; }
 
     /** The whole number with a node-ID of 0; the number itself for one that does not depend on it. */
-    CInteger base() const;
+    CInteger base() const { return mInteger; }
     /** The whole number for a node-ID. */
-    CInteger at(unsigned int nodeId) const;
+    CInteger at(unsigned int nodeId) const { return mUsesNodeId ? mInteger.plus(nodeId) : mInteger; }
     /** The whole number as 64 bits, a negative one as two's complement. */
     quint64 bits() const;
 
@@ -77,6 +84,9 @@ public:
     bool isBelow(const CValue& other) const;
     /** True for two texts of the same value. */
     bool operator==(const CValue& other) const;
+
+    /** The whole number, as long as it does not depend on the node-ID. */
+    std::optional<CInteger> plain() const;
 
 private:
     enum class EKind

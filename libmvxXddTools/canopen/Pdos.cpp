@@ -1,11 +1,9 @@
 #include "canopen/Pdos.h"
 
-#include "NIso15745Tags.h"
+#include "CCanOpenNames.h"
 #include "canopen/ObjectCodes.h"
 
 #include <algorithm>
-
-using namespace NIso15745Tags;
 
 namespace
 {
@@ -21,14 +19,49 @@ std::optional<EPdoDirection> directionFrom(unsigned int index, unsigned int offs
 }
 
 // 16 bits index, 8 bits sub-index, 8 bits length.
-std::optional<SMappedObject> mappedBy(const SDictionaryEntry& entry)
+SPdoField fieldOf(const SEntry& entry, const CDictionary& dictionary)
 {
-    const std::optional<CInteger> value = entry.plainDefault();
-    if (!value || value->isNegative() || value->magnitude() > 0xFFFFFFFF) {
-        return std::nullopt;
+    SPdoField field;
+    field.entry = &entry;
+    const std::optional<CValue> value = entry.current();
+    const std::optional<CInteger> number = value ? value->plain() : std::nullopt;
+    const std::optional<unsigned int> mapped = number ? number->unsigned32() : std::nullopt;
+    field.isNumber = mapped.has_value();
+    field.index = mapped.value_or(0) >> 16U;
+    field.subIndex = (mapped.value_or(0) >> 8U) & 0xFFU;
+    field.bits = mapped.value_or(0) & 0xFFU;
+    field.target = field.isDummy() ? nullptr : dictionary.variable(field.index, field.subIndex);
+    return field;
+}
+
+// As many as sub-index 0 says; where it says nothing, those in front of the first that maps nothing.
+void activate(SPdo& pdo)
+{
+    const unsigned int active = std::min(pdo.active.value_or(MAX_MAPPED), MAX_MAPPED);
+    for (SPdoField& field : pdo.fields) {
+        if (pdo.isMultiplexed() || (!pdo.active && field.mapsNothing())) {
+            return;
+        }
+        field.isActive = *field.entry->subIndex <= active;
     }
-    const auto bits = static_cast<unsigned int>(value->magnitude());
-    return SMappedObject{&entry, bits >> 16U, (bits >> 8U) & 0xFFU, bits & 0xFFU};
+}
+
+void readMapping(SPdo& pdo, const CDictionary& dictionary)
+{
+    for (const SEntry* const entry : dictionary.subObjects(*pdo.mapping)) {
+        if (entry->subIndex == 0U && pdo.count == nullptr) {
+            pdo.count = entry;
+            const std::optional<CValue> value = entry->current();
+            const std::optional<CInteger> count = value ? value->plain() : std::nullopt;
+            pdo.active = count ? count->unsigned32() : std::nullopt;
+        } else if (entry->subIndex && *entry->subIndex > 0 && *entry->subIndex < STRUCTURE_SUB_INDEX) {
+            pdo.fields.push_back(fieldOf(*entry, dictionary));
+        }
+    }
+    std::stable_sort(pdo.fields.begin(), pdo.fields.end(), [](const SPdoField& left, const SPdoField& right) {
+        return *left.entry->subIndex < *right.entry->subIndex;
+    });
+    activate(pdo);
 }
 } // namespace
 
@@ -42,71 +75,43 @@ std::optional<EPdoDirection> mappingDirection(unsigned int index)
     return directionFrom(index, MAPPING_OFFSET);
 }
 
-std::optional<EPdoDirection> onlyDirection(const SDictionaryEntry& entry)
+std::optional<EPdoDirection> onlyDirection(EMapping mapping)
 {
-    if (entry.mapping == VAL_OBJ_MAP_RPDO) {
+    if (mapping == EMapping::Receive) {
         return EPdoDirection::Receive;
     }
-    return entry.mapping == VAL_OBJ_MAP_TPDO ? std::optional<EPdoDirection>(EPdoDirection::Transmit) : std::nullopt;
+    return mapping == EMapping::Transmit ? std::optional<EPdoDirection>(EPdoDirection::Transmit) : std::nullopt;
 }
 
-bool forbidsDirection(const SDictionaryEntry& entry, EPdoDirection direction)
+bool forbidsDirection(EAccess access, EPdoDirection direction)
 {
-    return direction == EPdoDirection::Receive ? entry.isReadable() && !entry.isWritable()
-                                               : entry.isWritable() && !entry.isReadable();
+    return direction == EPdoDirection::Receive ? isReadable(access) && !isWritable(access)
+                                               : isWritable(access) && !isReadable(access);
 }
 
-bool SMappedObject::mapsNothing() const
+QString SPdoField::name() const
 {
-    return index == 0 && subIndex == 0 && bits == 0;
+    return CCanOpenNames::entry(index, isSubObject() ? std::optional<unsigned int>(subIndex) : std::nullopt);
 }
 
-bool SMappedObject::isDummy() const
+std::vector<SPdo> pdosOf(const CDictionary& dictionary)
 {
-    return index < 0x20 && subIndex == 0;
-}
-
-bool SPdoMapping::isMultiplexed() const
-{
-    return active.value_or(0) >= MULTIPLEXED;
-}
-
-unsigned int SPdoMapping::highestSubIndex() const
-{
-    unsigned int highest = 0;
-    for (const SDictionaryEntry* const entry : entries) {
-        highest = std::max(highest, *entry->subIndex);
-    }
-    return highest;
-}
-
-std::vector<SPdoMapping> pdoMappings(const CDictionary& dictionary)
-{
-    std::vector<SPdoMapping> mappings;
-    for (const std::size_t number : dictionary.objects()) {
-        const SDictionaryEntry& object = dictionary.entries()[number];
-        const auto direction = mappingDirection(object.index.value_or(0));
-        if (!direction) {
-            continue;
-        }
-        SPdoMapping mapping;
-        mapping.object = &object;
-        mapping.direction = *direction;
-        for (const SDictionaryEntry* const entry : dictionary.subObjects(object)) {
-            if (entry->subIndex == 0U && mapping.count == nullptr) {
-                mapping.count = entry;
-                const std::optional<CInteger> count = entry->plainDefault();
-                if (count && !count->isNegative() && count->magnitude() <= 255) {
-                    mapping.active = static_cast<unsigned int>(count->magnitude());
-                }
-            } else if (entry->subIndex && *entry->subIndex > 0 && *entry->subIndex < STRUCTURE_SUB_INDEX) {
-                mapping.entries.push_back(entry);
-                if (const std::optional<SMappedObject> mapped = mappedBy(*entry)) {
-                    mapping.mapped.push_back(*mapped);
-                }
+    std::vector<SPdo> pdos;
+    for (const EPdoDirection direction : {EPdoDirection::Receive, EPdoDirection::Transmit}) {
+        const unsigned int first = direction == EPdoDirection::Receive ? FIRST_RECEIVE_PDO : FIRST_TRANSMIT_PDO;
+        for (unsigned int number = 0; number < PDO_COUNT; ++number) {
+            SPdo pdo;
+            pdo.direction = direction;
+            pdo.number = number + 1;
+            pdo.communication = dictionary.object(first + number);
+            pdo.mapping = dictionary.object(first + number + MAPPING_OFFSET);
+            if (pdo.mapping != nullptr) {
+                readMapping(pdo, dictionary);
+            }
+            if (pdo.communication != nullptr || pdo.mapping != nullptr) {
+                pdos.push_back(std::move(pdo));
             }
         }
-        mappings.push_back(std::move(mapping));
     }
-    return mappings;
+    return pdos;
 }

@@ -26,46 +26,58 @@ constexpr unsigned int MAPPING_OFFSET = 0x200;
 /** A sub-index 0 of a mapping from here on says that the PDO is a multiplexed one. */
 constexpr unsigned int MULTIPLEXED = 254;
 
+/** Most entries of a mapping, and most bits: the data of one CAN frame. */
+constexpr unsigned int MAX_MAPPED = 64;
+constexpr unsigned int MAX_PDO_BITS = 64;
+
 /** The direction of the PDO whose communication parameters have that index. */
 std::optional<EPdoDirection> communicationDirection(unsigned int index);
 
 /** The direction of the PDO whose mapping has that index. */
 std::optional<EPdoDirection> mappingDirection(unsigned int index);
 
-/** The one direction in which an entry can be mapped by its "PDOmapping"; nothing when that names none or both. */
-std::optional<EPdoDirection> onlyDirection(const SDictionaryEntry& entry);
+/** The one direction in which a mapping allows an entry; nothing when it allows none or both. */
+std::optional<EPdoDirection> onlyDirection(EMapping mapping);
 
-/** True when the access of an entry forbids a direction: an RPDO writes an entry, a TPDO reads it. */
-bool forbidsDirection(const SDictionaryEntry& entry, EPdoDirection direction);
+/** True when an access forbids a direction: an RPDO writes an entry, a TPDO reads it. */
+bool forbidsDirection(EAccess access, EPdoDirection direction);
 
-/** An entry of a mapping. */
-struct SMappedObject
+/** A sub-object of a mapping, with what it maps. */
+struct SPdoField
 {
-    const SDictionaryEntry* entry = nullptr; ///< The sub-object of the mapping
+    const SEntry* entry = nullptr; ///< The sub-object
+    bool isNumber = false;         ///< It holds a number, which says the rest
     unsigned int index = 0;
     unsigned int subIndex = 0;
-    unsigned int bits = 0; ///< Length that it states
+    unsigned int bits = 0;          ///< Length that it states
+    const SEntry* target = nullptr; ///< The entry of the dictionary; null when it is not there, or a dummy is mapped
+    bool isActive = false;          ///< The PDO carries it
 
-    bool mapsNothing() const;
+    bool mapsNothing() const { return index == 0 && subIndex == 0 && bits == 0; }
+    /** True when it maps a sub-object; where the entry is not there, by its sub-index. */
+    bool isSubObject() const { return target == nullptr ? subIndex != 0 : target->isSubObject; }
+    /** What it maps, such as "0x6041" or "0x6200:01". */
+    QString name() const;
     /** True for a place holder: the index of a data type. */
-    bool isDummy() const;
+    bool isDummy() const { return index < 0x20 && subIndex == 0; }
 };
 
-/** The mapping of one PDO. */
-struct SPdoMapping
+/** A PDO as the dictionary describes it. */
+struct SPdo
 {
-    const SDictionaryEntry* object = nullptr;
     EPdoDirection direction = EPdoDirection::Receive;
-    const SDictionaryEntry* count = nullptr;      ///< Sub-index 0, or null
-    std::optional<unsigned int> active;           ///< How many entries are active, where that is known
-    std::vector<const SDictionaryEntry*> entries; ///< The sub-objects from 1 to 254
-    std::vector<SMappedObject> mapped;            ///< Those of them whose default is a plain number
+    unsigned int number = 0;               ///< From 1
+    const SEntry* communication = nullptr; ///< The object with its communication parameters, or null
+    const SEntry* mapping = nullptr;       ///< The object with its mapping, or null
+    const SEntry* count = nullptr;         ///< Sub-index 0 of the mapping, or null
+    std::optional<unsigned int> active;    ///< How many fields sub-index 0 says are active
+    std::vector<SPdoField> fields;         ///< The sub-objects of the mapping from 1 to 254
 
-    bool isMultiplexed() const;
-    unsigned int highestSubIndex() const;
+    bool isMultiplexed() const { return active == MULTIPLEXED || active == MULTIPLEXED + 1; }
+    unsigned int highestSubIndex() const { return fields.empty() ? 0 : *fields.back().entry->subIndex; }
 };
 
-/** Every mapping of a dictionary, in document order. */
-std::vector<SPdoMapping> pdoMappings(const CDictionary& dictionary);
+/** Every PDO of a dictionary: the receive PDOs, then the transmit PDOs, each by its number. */
+std::vector<SPdo> pdosOf(const CDictionary& dictionary);
 
 #endif

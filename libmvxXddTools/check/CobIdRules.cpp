@@ -1,11 +1,7 @@
-#include "CCanOpenNames.h"
-#include "canopen/Pdos.h"
-#include "check/CFindings.h"
-#include "check/CheckRules.h"
+#include "check/CCheckRules.h"
 #include "check/Walks.h"
 
 #include <QHash>
-#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -23,24 +19,54 @@ constexpr unsigned int TIME = 0x1012;
 constexpr unsigned int EMCY = 0x1014;
 constexpr unsigned int FIRST_SDO_SERVER = 0x1200;
 constexpr unsigned int LAST_SDO_SERVER = 0x127F;
+constexpr unsigned int LAST_SDO = 0x12FF;
+
+// The lower CAN-IDs of the predefined connection set, to which a device adds its node-ID.
+constexpr quint64 SDO_TO_CLIENT = 0x580;
+constexpr quint64 SDO_TO_SERVER = 0x600;
+constexpr std::array<quint64, 8> PDOS = {0x180, 0x200, 0x280, 0x300, 0x380, 0x400, 0x480, 0x500};
 
 // CAN-IDs that CiA 301 keeps for other uses.
-struct SRange11
+struct SCanIds
 {
     quint64 first;
     quint64 last;
 };
-constexpr std::array<SRange11, 5> RESTRICTED = {
+constexpr std::array<SCanIds, 5> RESTRICTED = {
     {{0x000, 0x07F}, {0x101, 0x180}, {0x581, 0x5FF}, {0x601, 0x67F}, {0x6E0, 0x7FF}}};
 
-bool isCobIdOfPdo(const SDictionaryEntry& entry)
+bool isSdo(const SEntry& entry)
+{
+    return isBetween(entry.index.value_or(0), FIRST_SDO_SERVER, LAST_SDO)
+           && (entry.subIndex == 1U || entry.subIndex == 2U);
+}
+
+bool isPdo(const SEntry& entry)
 {
     return entry.subIndex == 1U && communicationDirection(entry.index.value_or(0));
+}
+
+bool isSingle(const SEntry& entry)
+{
+    const unsigned int index = entry.index.value_or(0);
+    return !entry.isSubObject && (index == SYNC || index == TIME || index == EMCY);
 }
 
 bool isValid(const CValue& value)
 {
     return (value.bits() & NOT_VALID) == 0;
+}
+
+// True for a predefined CAN-ID that lacks the node-ID.
+bool lacksNodeId(const SEntry& entry, const CValue& value)
+{
+    if (value.usesNodeId()) {
+        return false;
+    }
+    const bool isPredefined = isPdo(entry)
+                                  ? std::find(PDOS.begin(), PDOS.end(), value.bits()) != PDOS.end()
+                                  : isSdo(entry) && (value.bits() == SDO_TO_CLIENT || value.bits() == SDO_TO_SERVER);
+    return isPredefined;
 }
 
 // True when one of the CAN-IDs that a value stands for is restricted.
@@ -49,121 +75,112 @@ bool isRestricted(const CValue& value)
     const quint64 base = value.bits() & CAN_ID_11;
     const quint64 first = value.usesNodeId() ? base + MIN_NODE_ID : base;
     const quint64 last = value.usesNodeId() ? base + MAX_NODE_ID : base;
-    return std::any_of(RESTRICTED.begin(), RESTRICTED.end(), [&](const SRange11& range) {
+    return std::any_of(RESTRICTED.begin(), RESTRICTED.end(), [&](const SCanIds& range) {
         return first <= range.last && last >= range.first;
     });
 }
 
-void cobId(const SChecked& checked, CFindings& findings)
+// What is wrong with a COB-ID; nothing when it can be used. SDOs are at CAN-IDs that others must not use.
+QString faultOf(const SEntry& entry, const CValue& value)
 {
-    for (const SDictionaryEntry& entry : checked.dictionary.entries()) {
-        const unsigned int index = entry.index.value_or(0);
-        const unsigned int subIndex = entry.subIndex.value_or(0);
-        const bool isSingle = !entry.isSubObject && (index == SYNC || index == TIME || index == EMCY);
-        const bool isDefaultServer = index == FIRST_SDO_SERVER && (subIndex == 1 || subIndex == 2);
-        if (!entry.value || !entry.value->isInteger() || !(isSingle || isDefaultServer || isCobIdOfPdo(entry))) {
+    const bool isCanId11 = isValid(value) && (value.bits() & EXTENDED) == 0;
+    if (isSdo(entry)) {
+        return lacksNodeId(entry, value) ? CRemarks::tr("COB-ID %1 lacks $NODEID") : QString();
+    }
+    if (isCanId11 && (value.bits() & CAN_ID_29 & ~CAN_ID_11) != 0) {
+        return CRemarks::tr("COB-ID %1 has more than 11 bits, but bit 29 is not set");
+    }
+    if (!isCanId11 || !isRestricted(value)) {
+        return {};
+    }
+    return lacksNodeId(entry, value) ? CRemarks::tr("COB-ID %1 lacks $NODEID")
+                                     : CRemarks::tr("COB-ID %1 is restricted");
+}
+
+void badCobId(const CDescription& description, CRemarks& findings)
+{
+    for (const SEntry& entry : description.dictionary().entries()) {
+        const std::optional<CValue>& value = entry.defaultValue.value;
+        if (!value || !value->isInteger() || !(isSingle(entry) || isSdo(entry) || isPdo(entry))) {
             continue;
         }
-        const CValue& value = *entry.value;
-        const QString text = CFindings::quoted(entry.defaultValue, entry.element);
-        if (isDefaultServer) {
-            const quint64 base = subIndex == 1 ? 0x600 : 0x580;
-            if (!value.usesNodeId() && value.bits() == base) {
-                findings.add(entry, CFindings::tr("COB-ID %1 lacks $NODEID").arg(text));
-            }
-            continue;
-        }
-        if (!isValid(value) || (value.bits() & EXTENDED) != 0) {
-            continue;
-        }
-        if ((value.bits() & CAN_ID_29 & ~CAN_ID_11) != 0) {
-            findings.add(entry, CFindings::tr("COB-ID %1 has more than 11 bits, but not bit 29").arg(text));
-        } else if (isRestricted(value)) {
-            findings.add(entry, CFindings::tr("COB-ID %1 is restricted").arg(text));
+        const QString fault = faultOf(entry, *value);
+        if (!fault.isEmpty()) {
+            findings.add(entry, fault, {quoted(entry.defaultValue, entry)});
         }
     }
 }
 
-// What a device sends with: a CAN-ID, and whether it moves with the node-ID.
-struct SProducer
+// What a device sends with, and whether that moves with the node-ID; nothing for an entry that states none.
+std::optional<quint64> producedWith(const SEntry& entry)
 {
-    const SDictionaryEntry* entry;
-    quint64 key;
-};
-
-std::optional<SProducer> producer(const SDictionaryEntry* entry)
-{
-    if (entry == nullptr || !entry->value || !entry->value->isInteger() || !isValid(*entry->value)) {
+    const std::optional<CValue>& value = entry.defaultValue.value;
+    if (!value || !value->isInteger() || !isValid(*value)) {
         return std::nullopt;
     }
-    const quint64 bits = entry->value->bits();
+    const quint64 bits = value->bits();
     const quint64 canId = bits & ((bits & EXTENDED) != 0 ? CAN_ID_29 : CAN_ID_11);
     if (canId == 0) {
         return std::nullopt;
     }
-    return SProducer{entry, canId | (bits & EXTENDED) | (entry->value->usesNodeId() ? NOT_VALID : 0)};
+    return canId | (bits & EXTENDED) | (value->usesNodeId() ? NOT_VALID : 0);
 }
 
-// The TPDOs that map something.
-QSet<unsigned int> usedTransmitPdos(const SChecked& checked)
+// The COB-ID entries of all that a device sends with, in document order: SDO servers, the emergency message, and TPDOs
+// that map something.
+std::vector<const SEntry*> producersOf(const CDescription& description)
 {
-    QSet<unsigned int> used;
-    for (const SPdoMapping& mapping : checked.mappings) {
-        const bool mapsSomething =
-            std::any_of(mapping.mapped.begin(), mapping.mapped.end(), [](const SMappedObject& mapped) {
-                return !mapped.mapsNothing();
-            });
-        if (mapping.direction == EPdoDirection::Transmit && mapsSomething) {
-            used.insert(*mapping.object->index - MAPPING_OFFSET);
-        }
+    QHash<const SEntry*, bool> isUsed; // By the communication parameters of a TPDO
+    for (const SPdo& pdo : description.pdos()) {
+        const bool mapsSomething = std::any_of(pdo.fields.begin(), pdo.fields.end(), [](const SPdoField& field) {
+            return field.isNumber && !field.mapsNothing();
+        });
+        isUsed.insert(pdo.communication, pdo.direction == EPdoDirection::Transmit && mapsSomething);
     }
-    return used;
-}
-
-void cobIdClash(const SChecked& checked, CFindings& findings)
-{
-    const QSet<unsigned int> used = usedTransmitPdos(checked);
-    const SDictionaryEntry* const sync = checked.dictionary.variable(SYNC, 0);
-    QHash<quint64, const SDictionaryEntry*> first;
-    const std::optional<SProducer> syncProducer = producer(sync);
-    if (syncProducer && !sync->value->usesNodeId()) {
-        first.insert(syncProducer->key, sync);
-    }
-    for (const SDictionaryEntry& entry : checked.dictionary.entries()) {
+    std::vector<const SEntry*> producers;
+    for (const SEntry& entry : description.dictionary().entries()) {
         const unsigned int index = entry.index.value_or(0);
         const bool isServer = isBetween(index, FIRST_SDO_SERVER, LAST_SDO_SERVER) && entry.subIndex == 2U;
-        const bool isPdo = entry.subIndex == 1U && used.contains(index);
-        const bool isEmergency = index == EMCY && !entry.isSubObject;
-        const std::optional<SProducer> sender = isServer || isPdo || isEmergency ? producer(&entry) : std::nullopt;
-        if (!sender) {
-            continue;
+        const bool isSender = isPdo(entry) && isUsed.value(&description.dictionary().objectOf(entry));
+        if (isServer || isSender || (index == EMCY && !entry.isSubObject)) {
+            producers.push_back(&entry);
         }
-        if (const SDictionaryEntry* const other = first.value(sender->key)) {
+    }
+    return producers;
+}
+
+void cobIdClash(const CDescription& description, CRemarks& findings)
+{
+    QHash<quint64, const SEntry*> first;
+    const SEntry* const sync = description.dictionary().variable(SYNC, 0);
+    const std::optional<quint64> syncId = sync == nullptr ? std::nullopt : producedWith(*sync);
+    if (syncId && !sync->defaultValue.value->usesNodeId()) {
+        first.insert(*syncId, sync);
+    }
+    for (const SEntry* const entry : producersOf(description)) {
+        const std::optional<quint64> id = producedWith(*entry);
+        const SEntry* const other = id ? first.value(*id) : nullptr;
+        if (other != nullptr) {
             findings.add(
-                entry, CFindings::tr("COB-ID %1 is also that of %2 (line %3)")
-                           .arg(CFindings::quoted(entry.defaultValue, entry.element), other->name(), lineOf(*other)));
-        } else {
-            first.insert(sender->key, &entry);
+                *entry, CRemarks::tr("COB-ID %1 is also that of %2 (line %3)"),
+                {quoted(entry->defaultValue, *entry), other->place().entry(), other->element.line()});
+        } else if (id) {
+            first.insert(*id, entry);
         }
     }
 }
 } // namespace
 
-const CheckRules& cobIdRules()
+const CheckRules& CCheckRules::cobId()
 {
     static const CheckRules rules = {
-        {"cob-id", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "A COB-ID is restricted, too long for its kind, or lacks $NODEID"),
-         QT_TRANSLATE_NOOP(
-             "CFindings", "It collides with other services of the network, or with the same device a second time. Use "
-                          "the predefined "
-                          "one, such as $NODEID+0x180."),
-         cobId},
-        {"cob-id-clash", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "Two producers of the device send with the same CAN-ID"),
-         QT_TRANSLATE_NOOP(
-             "CFindings",
-             "Receivers cannot tell them apart. Give one another CAN-ID, or set bit 31 where it is not used."),
+        {"cob-id", WARNING, QT_TR_NOOP("A COB-ID is restricted, has too many bits or lacks $NODEID"),
+         QT_TR_NOOP(
+             "It collides with other services of the network or with a second device of the same type. Use the predefined one, such as $NODEID+0x180."),
+         badCobId},
+        {"cob-id-clash", WARNING, QT_TR_NOOP("Two producers of the device send with the same CAN-ID"),
+         QT_TR_NOOP(
+             "Receivers cannot tell them apart. Give one of them another CAN-ID, or set bit 31 of the unused one."),
          cobIdClash},
     };
     return rules;

@@ -1,47 +1,33 @@
 #include "CXmlValue.h"
 #include "NIso15745Tags.h"
-#include "canopen/Pdos.h"
-#include "canopen/ProcessNames.h"
-#include "check/CFindings.h"
-#include "check/CheckRules.h"
+#include "canopen/NFormatWords.h"
+#include "check/CCheckRules.h"
 
 #include <algorithm>
 
 using namespace NIso15745Tags;
-using namespace NProcessNames;
+using namespace NFormatWords;
 
 namespace
 {
-// The elements with that name in the network management.
-std::vector<CXmlElement> managementElements(const SChecked& checked, QLatin1String name)
+unsigned int pdoCountOf(const CDescription& description, EPdoDirection direction)
 {
-    std::vector<CXmlElement> found;
-    for (const CXmlElement& body : checked.description.bodies(EProfile::Network)) {
-        for (const CXmlElement& element : body.child(TAG_NETWORK_MANAGEMENT).children(name)) {
-            found.push_back(element);
-        }
-    }
-    return found;
-}
-
-unsigned int pdoCountOf(const CDictionary& dictionary, EPdoDirection direction)
-{
-    const auto& objects = dictionary.objects();
-    return unsigned(std::count_if(objects.begin(), objects.end(), [&](std::size_t number) {
-        return communicationDirection(dictionary.entries()[number].index.value_or(0)) == direction;
+    const auto& pdos = description.pdos();
+    return unsigned(std::count_if(pdos.begin(), pdos.end(), [&](const SPdo& pdo) {
+        return pdo.direction == direction && pdo.communication != nullptr;
     }));
 }
 
-void pdoCount(const SChecked& checked, CFindings& findings)
+void pdoCount(const CDescription& description, CRemarks& findings)
 {
-    for (const CXmlElement& features : managementElements(checked, TAG_GENERAL_FEATURES)) {
+    for (const CXmlElement& features : description.managementElements(TAG_GENERAL_FEATURES)) {
         const auto compare = [&](QLatin1String attribute, EPdoDirection direction) {
             const auto stated = CXmlValue::toNumber(features.attribute(attribute), 10);
-            const unsigned int count = pdoCountOf(checked.dictionary, direction);
+            const unsigned int count = pdoCountOf(description, direction);
             if (stated && *stated != count) {
                 findings.add(
-                    features, CFindings::tr("%1 is %2, but there are %3")
-                                  .arg(attribute, features.attribute(attribute), QString::number(count)));
+                    features, CRemarks::tr("%1 is %2, but the number of PDOs is %3"),
+                    {attribute, features.attribute(attribute), count});
             }
         };
         compare(ATTR_NR_OF_RX_PDO, EPdoDirection::Receive);
@@ -49,37 +35,37 @@ void pdoCount(const SChecked& checked, CFindings& findings)
     }
 }
 
-void granularity(const SChecked& checked, CFindings& findings)
+void granularity(const CDescription& description, CRemarks& findings)
 {
     int writable = 0;
     int fixed = 0;
-    for (const SPdoMapping& mapping : checked.mappings) {
-        if (mapping.count != nullptr) {
-            ++(mapping.count->isWritable() ? writable : fixed);
+    for (const SPdo& pdo : description.pdos()) {
+        if (pdo.count != nullptr) {
+            ++(isWritable(pdo.count->access.value) ? writable : fixed);
         }
     }
-    for (const CXmlElement& features : managementElements(checked, TAG_GENERAL_FEATURES)) {
+    for (const CXmlElement& features : description.managementElements(TAG_GENERAL_FEATURES)) {
         const auto stated = CXmlValue::toNumber(features.attribute(ATTR_GRANULARITY), 10);
         if (stated == 0U && writable > 0 && fixed == 0) {
-            findings.add(features, CFindings::tr("granularity is 0 (no mapping), but every mapping can be written"));
+            findings.add(features, CRemarks::tr("granularity is 0 (fixed mappings), but every mapping can be written"));
         } else if (stated.value_or(0) != 0 && writable == 0 && fixed > 0) {
-            findings.add(features, CFindings::tr("granularity is %1, but no mapping can be written").arg(*stated));
+            findings.add(features, CRemarks::tr("granularity is %1, but no mapping can be written"), {*stated});
         }
     }
 }
 
-void missingBitRate(const SChecked& checked, CFindings& findings)
+void missingBitRate(const CDescription& description, CRemarks& findings)
 {
-    for (const CXmlElement& baudRate : checked.description.bitRates()) {
+    for (const CXmlElement& baudRate : description.bitRates()) {
         if (baudRate.child(TAG_SUPPORTED_BAUD_RATE).isNull()) {
-            findings.add(baudRate, CFindings::tr("there is no <%1>").arg(TAG_SUPPORTED_BAUD_RATE));
+            findings.add(baudRate, CRemarks::tr("<%1> is missing in <%2>"), {TAG_SUPPORTED_BAUD_RATE, TAG_BAUD_RATE});
         }
     }
 }
 
-void defaultBitRate(const SChecked& checked, CFindings& findings)
+void defaultBitRate(const CDescription& description, CRemarks& findings)
 {
-    for (const CXmlElement& baudRate : checked.description.bitRates()) {
+    for (const CXmlElement& baudRate : description.bitRates()) {
         const QString stated = baudRate.attribute(ATTR_DEFAULT_VALUE);
         QStringList supported;
         for (const CXmlElement& rate : baudRate.children(TAG_SUPPORTED_BAUD_RATE)) {
@@ -87,52 +73,41 @@ void defaultBitRate(const SChecked& checked, CFindings& findings)
         }
         if (!stated.isEmpty() && !supported.isEmpty() && !supported.contains(stated)) {
             findings.add(
-                baudRate, CFindings::tr("the default \"%1\" is not supported: %2")
-                              .arg(stated, supported.join(QLatin1String(", "))));
+                baudRate, CRemarks::tr("the default bit rate \"%1\" is not one of the supported: %2"),
+                {stated, supported.join(QLatin1String(", "))});
         }
     }
 }
 
-void nodeId(const SChecked& checked, CFindings& findings)
+void nodeId(const CDescription& description, CRemarks& findings)
 {
-    for (const CXmlElement& commissioning : managementElements(checked, TAG_COMMISSIONING)) {
-        for (const QLatin1String name : {QLatin1String("nodeID"), QLatin1String("NodeID")}) {
+    for (const CXmlElement& commissioning : description.managementElements(TAG_COMMISSIONING)) {
+        for (const QLatin1String name : {ATTR_NODE_ID, ATTR_NODE_ID_CAPITAL}) {
             const QString text = commissioning.attribute(name);
             const std::optional<CInteger> number = readInteger(text);
-            const bool isNodeId = number && !number->isNegative() && number->magnitude() <= MAX_NODE_ID;
+            const bool isNodeId = number && number->unsigned32().value_or(MAX_NODE_ID + 1) <= MAX_NODE_ID;
             if (!text.isEmpty() && !isNodeId) {
-                findings.add(commissioning, CFindings::tr("%1 \"%2\" is no number up to 127").arg(name, text));
+                findings.add(commissioning, CRemarks::tr("%1 \"%2\" is not a number up to 127"), {name, text});
             }
         }
     }
 }
 } // namespace
 
-const CheckRules& networkRules()
+const CheckRules& CCheckRules::network()
 {
     static const CheckRules rules = {
-        {"pdo-count", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "nrOfRxPDO or nrOfTxPDO is not the number of PDOs found"),
-         QT_TRANSLATE_NOOP(
-             "CFindings", "Tools set up too many or too few PDOs. Count the objects from 0x1400 and 0x1800."),
-         pdoCount},
-        {"granularity", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "granularity contradicts whether mappings can be written"),
-         QT_TRANSLATE_NOOP(
-             "CFindings",
-             "Tools offer a mapping that the device refuses, or none. 0 means fixed mappings, 8 whole bytes."),
+        {"pdo-count", WARNING, QT_TR_NOOP("nrOfRxPDO or nrOfTxPDO is not the number of PDOs in the dictionary"),
+         QT_TR_NOOP("Tools set up too many or too few PDOs. Count the objects from 0x1400 and 0x1800."), pdoCount},
+        {"granularity", WARNING, QT_TR_NOOP("granularity contradicts the access to the mappings"),
+         QT_TR_NOOP("Tools offer a mapping that the device refuses, or none. 0 means fixed mappings, 8 whole bytes."),
          granularity},
-        {"missing-bit-rate", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "baudRate has no supportedBaudRate"),
-         QT_TRANSLATE_NOOP("CFindings", "Tools cannot offer a bit rate, or refuse the file. List the supported ones."),
-         missingBitRate},
-        {"default-bit-rate", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "The default bit rate is not among the supported ones"),
-         QT_TRANSLATE_NOOP("CFindings", "A tool that picks it cannot reach the device. Mend one of them."),
-         defaultBitRate},
-        {"node-id", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "The nodeID of deviceCommissioning is no number up to 127"),
-         QT_TRANSLATE_NOOP("CFindings", "Node-IDs of CANopen are 1 to 127. Write one of them, or 0 for none."), nodeId},
+        {"missing-bit-rate", WARNING, QT_TR_NOOP("No bit rate is supported"),
+         QT_TR_NOOP("Tools cannot offer a bit rate, or refuse the file. List the supported ones."), missingBitRate},
+        {"default-bit-rate", WARNING, QT_TR_NOOP("The default bit rate is not one of the supported bit rates"),
+         QT_TR_NOOP("A tool that picks it cannot reach the device. Correct one of them."), defaultBitRate},
+        {"node-id", WARNING, QT_TR_NOOP("The node-ID of the commissioning is not a number up to 127"),
+         QT_TR_NOOP("Node-IDs of CANopen are 1 to 127. Write one of them, or 0 for none."), nodeId},
     };
     return rules;
 }

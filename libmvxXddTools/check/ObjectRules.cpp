@@ -1,10 +1,7 @@
-#include "CCanOpenNames.h"
 #include "CXmlValue.h"
 #include "NIso15745Tags.h"
 #include "canopen/ObjectCodes.h"
-#include "canopen/Pdos.h"
-#include "check/CFindings.h"
-#include "check/CheckRules.h"
+#include "check/CCheckRules.h"
 #include "check/Walks.h"
 
 #include <QHash>
@@ -16,40 +13,33 @@ using namespace NIso15745Tags;
 
 namespace
 {
-// True for the code of an object without sub-objects.
-bool isSimple(const SDictionaryEntry& object)
+const SObjectCode& codeOf(const SEntry& entry)
 {
-    return contains(std::array{CODE_DOMAIN, CODE_DEFTYPE, CODE_VAR}, object.objectType);
+    return objectCodeOf(entry.objectCode.value_or(0));
 }
 
-// True for the code of an object with sub-objects.
-bool isComposed(const SDictionaryEntry& object)
+void duplicateIndex(const CDescription& description, CRemarks& findings)
 {
-    return contains(std::array{CODE_DEFSTRUCT, CODE_ARRAY, CODE_RECORD}, object.objectType);
-}
-
-void duplicateIndex(const SChecked& checked, CFindings& findings)
-{
-    forObjects(checked, [&](const SDictionaryEntry& object) {
-        const SDictionaryEntry* const first = object.index ? checked.dictionary.object(*object.index) : &object;
+    forObjects(description, [&](const SEntry& object) {
+        const SEntry* const first = object.index ? description.dictionary().object(*object.index) : &object;
         if (first != &object) {
-            findings.add(object, CFindings::tr("the object stands in line %1 already").arg(lineOf(*first)));
+            findings.add(object, CRemarks::tr("the object duplicates line %1"), {first->element.line()});
         }
     });
 }
 
-void duplicateSubIndex(const SChecked& checked, CFindings& findings)
+void duplicateSubIndex(const CDescription& description, CRemarks& findings)
 {
-    forObjects(checked, [&](const SDictionaryEntry& object) {
-        QHash<unsigned int, const SDictionaryEntry*> first;
-        for (const SDictionaryEntry* const entry : checked.dictionary.subObjects(object)) {
+    forObjects(description, [&](const SEntry& object) {
+        QHash<unsigned int, const SEntry*> first;
+        for (const SEntry* const entry : description.dictionary().subObjects(object)) {
             if (!entry->subIndex) {
                 continue;
             }
             if (first.contains(*entry->subIndex)) {
                 findings.add(
-                    *entry, CFindings::tr("the sub-object stands in line %1 already")
-                                .arg(lineOf(*first.value(*entry->subIndex))));
+                    *entry, CRemarks::tr("the sub-object duplicates line %1"),
+                    {first.value(*entry->subIndex)->element.line()});
             } else {
                 first.insert(*entry->subIndex, entry);
             }
@@ -57,143 +47,155 @@ void duplicateSubIndex(const SChecked& checked, CFindings& findings)
     });
 }
 
-void indexRange(const SChecked& checked, CFindings& findings)
+void indexRange(const CDescription& description, CRemarks& findings)
 {
-    forObjects(checked, [&](const SDictionaryEntry& object) {
+    forObjects(description, [&](const SEntry& object) {
         if (object.index && !isBetween(*object.index, 0x0001, 0x025F) && !isBetween(*object.index, 0x1000, 0xBFFF)) {
-            findings.add(object, CFindings::tr("the index is reserved"));
+            findings.add(object, CRemarks::tr("the index is reserved"));
         }
     });
 }
 
-void objectType(const SChecked& checked, CFindings& findings)
+void objectType(const CDescription& description, CRemarks& findings)
 {
-    for (const SDictionaryEntry& entry : checked.dictionary.entries()) {
-        const QString text = entry.element.attribute(ATTR_OBJECT_TYPE);
-        const bool isReadable = CXmlValue::toNumber(text, 10, 255).has_value();
-        const bool isSingle = entry.objectType == CODE_DOMAIN || entry.objectType == CODE_VAR;
-        const bool isKnown = entry.isSubObject ? isSingle : isSimple(entry) || isComposed(entry);
-        if (isReadable && !isKnown) {
+    for (const SEntry& entry : description.dictionary().entries()) {
+        const bool isKnown = entry.isSubObject ? codeOf(entry).isOfSubObject : codeOf(entry).isOfObject;
+        if (entry.objectCode && !isKnown) {
             findings.add(
-                entry, entry.isSubObject ? CFindings::tr("objectType %1 is none of a sub-object (2, 7)").arg(text)
-                                         : CFindings::tr("objectType %1 is none of an object (2, 5 to 9)").arg(text));
+                entry.place(),
+                entry.isSubObject ? CRemarks::tr("objectType %1 is not allowed for a sub-object (2 or 7 is)")
+                                  : CRemarks::tr("objectType %1 is not allowed for an object (2 and 5 to 9 are)"),
+                {entry.element.attribute(ATTR_OBJECT_TYPE)});
         }
     }
 }
 
-void missingSubObjects(const SChecked& checked, CFindings& findings)
+void missingSubObjects(const CDescription& description, CRemarks& findings)
 {
-    forObjects(checked, [&](const SDictionaryEntry& object) {
-        if (isComposed(object) && object.subObjects == 0) {
-            findings.add(
-                object, CFindings::tr("%1 without sub-objects").arg(CCanOpenNames::objectCode(object.objectType)));
+    forObjects(description, [&](const SEntry& object) {
+        if (codeOf(object).hasSubObjects && object.subObjects == 0) {
+            findings.add(object, CRemarks::tr("%1 without sub-objects"), {codeOf(object).name});
         }
     });
 }
 
-void subObjectsOfVariable(const SChecked& checked, CFindings& findings)
+void subObjectsOfVariable(const CDescription& description, CRemarks& findings)
 {
-    forObjects(checked, [&](const SDictionaryEntry& object) {
-        if (isSimple(object) && object.subObjects > 0) {
+    forObjects(description, [&](const SEntry& object) {
+        if (codeOf(object).isOfObject && !codeOf(object).hasSubObjects && object.subObjects > 0) {
             findings.add(
-                object, CFindings::tr("%1 with %2 sub-objects")
-                            .arg(CCanOpenNames::objectCode(object.objectType), QString::number(object.subObjects)));
+                object, CRemarks::tr("%1 with %n sub-object(s)", nullptr, object.subObjects), {codeOf(object).name});
         }
     });
 }
 
-void missingSubIndex0(const SChecked& checked, CFindings& findings)
+void missingSubIndex0(const CDescription& description, CRemarks& findings)
 {
-    forObjects(checked, [&](const SDictionaryEntry& object) {
-        const auto subObjects = checked.dictionary.subObjects(object);
+    forObjects(description, [&](const SEntry& object) {
+        const auto subObjects = description.dictionary().subObjects(object);
         const bool hasFirst = std::any_of(
-            subObjects.begin(), subObjects.end(), [](const SDictionaryEntry* entry) { return entry->subIndex == 0U; });
-        if (isComposed(object) && object.subObjects > 0 && !hasFirst) {
-            findings.add(
-                object, CFindings::tr("%1 without sub-index 0").arg(CCanOpenNames::objectCode(object.objectType)));
+            subObjects.begin(), subObjects.end(), [](const SEntry* entry) { return entry->subIndex == 0U; });
+        if (codeOf(object).hasSubObjects && object.subObjects > 0 && !hasFirst) {
+            findings.add(object, CRemarks::tr("%1 without sub-index 0"), {codeOf(object).name});
         }
     });
 }
 
-void missingMandatoryObject(const SChecked& checked, CFindings& findings)
+// A part of a description, such as the objects of a profile, is no device and has not all of a device's objects.
+bool isDevice(const CDescription& description)
 {
-    const std::vector<CXmlElement> lists = checked.description.objectLists();
+    return !description.body(EProfile::Device).child(TAG_DEVICE_IDENTITY).isNull()
+           || description.dictionary().object(0x1000) != nullptr || description.dictionary().object(0x1018) != nullptr;
+}
+
+void missingMandatoryObject(const CDescription& description, CRemarks& findings)
+{
+    const std::vector<CXmlElement> lists = description.objectLists();
     for (const unsigned int index : {0x1000U, 0x1001U, 0x1018U}) {
-        if (!lists.empty() && checked.dictionary.object(index) == nullptr) {
-            findings.add(lists.front(), CFindings::tr("there is no object %1").arg(CCanOpenNames::index(index)));
+        if (!lists.empty() && isDevice(description) && description.dictionary().object(index) == nullptr) {
+            findings.add(
+                lists.front().place(), CRemarks::tr("object %1 is missing"),
+                {SArgument::word(CCanOpenNames::entry(index))});
         }
     }
 }
 
-void missingErrorControl(const SChecked& checked, CFindings& findings)
+void missingErrorControl(const CDescription& description, CRemarks& findings)
 {
-    const std::vector<CXmlElement> lists = checked.description.objectLists();
+    const std::vector<CXmlElement> lists = description.objectLists();
     const auto has = [&](unsigned int index) {
-        return checked.dictionary.object(index) != nullptr;
+        return description.dictionary().object(index) != nullptr;
     };
-    if (!lists.empty() && !has(0x1017) && !(has(0x100C) && has(0x100D))) {
+    if (!lists.empty() && isDevice(description) && !has(0x1017) && !(has(0x100C) && has(0x100D))) {
         findings.add(
-            lists.front(), CFindings::tr("neither a heartbeat (0x1017) nor node guarding (0x100C and 0x100D)"));
+            lists.front().place(),
+            CRemarks::tr("there is neither a heartbeat (0x1017) nor node guarding (0x100C and 0x100D)"));
     }
 }
 
-void highestSubIndex(const SChecked& checked, CFindings& findings)
+// Sub-index 0 of some objects is the number of entries in use.
+bool countsEntriesInUse(const SEntry& object)
 {
-    forObjects(checked, [&](const SDictionaryEntry& object) {
-        const bool countsOthers = object.index && (*object.index == 0x1003 || mappingDirection(*object.index));
-        if (!object.isArrayOrRecord() || countsOthers) {
+    return object.index && (*object.index == 0x1003 || mappingDirection(*object.index));
+}
+
+void highestSubIndex(const CDescription& description, CRemarks& findings)
+{
+    forObjects(description, [&](const SEntry& object) {
+        if (!object.isArrayOrRecord() || countsEntriesInUse(object)) {
             return;
         }
-        const SDictionaryEntry* first = nullptr;
+        const SEntry* first = nullptr;
         unsigned int highest = 0;
-        for (const SDictionaryEntry* const entry : checked.dictionary.subObjects(object)) {
+        for (const SEntry* const entry : description.dictionary().subObjects(object)) {
             const unsigned int subIndex = entry->subIndex.value_or(0);
             highest = subIndex < STRUCTURE_SUB_INDEX ? std::max(highest, subIndex) : highest;
             first = entry->subIndex == 0U && first == nullptr ? entry : first;
         }
         const std::optional<CInteger> stated = first == nullptr ? std::nullopt : first->plainDefault();
         // A device may write how many elements of its own arrays are in use.
-        const bool isFixed = first != nullptr && (!first->isWritable() || object.index.value_or(0) < 0x2000);
+        const bool isFixed =
+            first != nullptr && (!isWritable(first->access.value) || object.index.value_or(0) < 0x2000);
         if (stated && isFixed && *stated != CInteger(false, highest)) {
             findings.add(
-                *first, CFindings::tr("the default %1 is not the highest sub-index %2")
-                            .arg(CFindings::quoted(first->defaultValue, first->element), QString::number(highest)));
+                *first, CRemarks::tr("the default %1 is not the highest sub-index %2"),
+                {quoted(first->defaultValue, *first), highest});
         }
     });
 }
 
-void subNumber(const SChecked& checked, CFindings& findings)
+void subNumber(const CDescription& description, CRemarks& findings)
 {
-    forObjects(checked, [&](const SDictionaryEntry& object) {
+    forObjects(description, [&](const SEntry& object) {
         const QString text = object.element.attribute(ATTR_SUB_NUMBER);
         const auto stated = CXmlValue::toNumber(text, 10);
         if (object.subObjects > 0 && stated && *stated != unsigned(object.subObjects)) {
             findings.add(
-                object, CFindings::tr("subNumber %1 is not the number of sub-objects %2")
-                            .arg(text, QString::number(object.subObjects)));
+                object, CRemarks::tr("subNumber is %1, but the number of sub-objects is %2"),
+                {text, object.subObjects});
         }
     });
 }
 
-void objectCount(const SChecked& checked, CFindings& findings)
+void objectCount(const CDescription& description, CRemarks& findings)
 {
     using Kind = CCanOpenNames::EObjectKind;
     QHash<int, std::array<unsigned int, 3>> foundIn; // By where the list begins
-    forObjects(checked, [&](const SDictionaryEntry& object) {
+    forObjects(description, [&](const SEntry& object) {
         if (object.index) {
             auto& counts = foundIn[object.element.parent().range().begin];
             ++counts[std::size_t(CCanOpenNames::objectKind(*object.index))];
         }
     });
-    for (const CXmlElement& list : checked.description.objectLists()) {
+    for (const CXmlElement& list : description.objectLists()) {
         const std::array<unsigned int, 3> found = foundIn.value(list.range().begin);
         const auto compare = [&](QLatin1String attribute, Kind kind) {
             const auto stated = CXmlValue::toNumber(list.attribute(attribute), 10);
             const unsigned int count = found[std::size_t(kind)];
             if (stated && *stated != count) {
                 findings.add(
-                    list, CFindings::tr("%1 is %2, but there are %3")
-                              .arg(attribute, list.attribute(attribute), QString::number(count)));
+                    list, CRemarks::tr("%1 is %2, but the number of such objects is %3"),
+                    {attribute, list.attribute(attribute), count});
             }
         };
         compare(ATTR_MANDATORY_OBJECTS, Kind::Mandatory);
@@ -203,57 +205,37 @@ void objectCount(const SChecked& checked, CFindings& findings)
 }
 } // namespace
 
-const CheckRules& objectRules()
+const CheckRules& CCheckRules::object()
 {
     static const CheckRules rules = {
-        {"duplicate-index", CXddFinding::SEVERITY_ERROR, QT_TRANSLATE_NOOP("CFindings", "An object stands twice"),
-         QT_TRANSLATE_NOOP("CFindings", "Tools refuse the file or keep either one. Remove or renumber one."),
-         duplicateIndex},
-        {"duplicate-subindex", CXddFinding::SEVERITY_ERROR,
-         QT_TRANSLATE_NOOP("CFindings", "A sub-object stands twice in its object"),
-         QT_TRANSLATE_NOOP("CFindings", "Tools keep either one. Remove or renumber one."), duplicateSubIndex},
-        {"index-range", CXddFinding::SEVERITY_ERROR,
-         QT_TRANSLATE_NOOP("CFindings", "An index is below 0x1000 and no data type, or from 0xC000"),
-         QT_TRANSLATE_NOOP("CFindings", "These indexes are reserved, and tools refuse them. Use another one."),
-         indexRange},
-        {"object-type", CXddFinding::SEVERITY_ERROR,
-         QT_TRANSLATE_NOOP("CFindings", "objectType is no object code of CiA 301"),
-         QT_TRANSLATE_NOOP(
-             "CFindings", "Tools do not know what to do with the entry. 7 is VAR, 8 ARRAY, 9 RECORD, 2 DOMAIN."),
-         objectType},
-        {"missing-subobjects", CXddFinding::SEVERITY_ERROR,
-         QT_TRANSLATE_NOOP("CFindings", "An array or record has no sub-objects"),
-         QT_TRANSLATE_NOOP("CFindings", "Tools cannot access anything of it. Add them, or make it a VAR (7)."),
-         missingSubObjects},
-        {"subobjects-of-variable", CXddFinding::SEVERITY_ERROR,
-         QT_TRANSLATE_NOOP("CFindings", "A variable has sub-objects"),
-         QT_TRANSLATE_NOOP("CFindings", "Tools drop them or refuse the file. Make it an ARRAY (8) or RECORD (9)."),
-         subObjectsOfVariable},
-        {"missing-subindex-0", CXddFinding::SEVERITY_ERROR,
-         QT_TRANSLATE_NOOP("CFindings", "An array or record has no sub-index 0"),
-         QT_TRANSLATE_NOOP("CFindings", "Tools read from it how far to go. Add it, as UNSIGNED8."), missingSubIndex0},
-        {"missing-mandatory-object", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "0x1000, 0x1001 or 0x1018 is missing"),
-         QT_TRANSLATE_NOOP("CFindings", "Every device has these objects, and masters read them at start. Add it."),
+        {"duplicate-index", ERROR, QT_TR_NOOP("An object is there twice"),
+         QT_TR_NOOP("Tools refuse the file or keep either one. Remove or renumber one."), duplicateIndex},
+        {"duplicate-subindex", ERROR, QT_TR_NOOP("A sub-object is there twice"),
+         QT_TR_NOOP("Tools keep either one. Remove or renumber one."), duplicateSubIndex},
+        {"index-range", ERROR, QT_TR_NOOP("An index is above 0xBFFF, or below 0x1000 and not that of a data type"),
+         QT_TR_NOOP("These indexes are reserved, and tools refuse them. Use another one."), indexRange},
+        {"object-type", ERROR, QT_TR_NOOP("objectType is not an object code that CiA 301 allows there"),
+         QT_TR_NOOP("Tools do not know what to do with the entry. 7 is VAR, 8 ARRAY, 9 RECORD, 2 DOMAIN."), objectType},
+        {"missing-subobjects", ERROR, QT_TR_NOOP("An array or record has no sub-objects"),
+         QT_TR_NOOP("Tools cannot access anything of it. Add them, or make it a VAR (7)."), missingSubObjects},
+        {"subobjects-of-variable", ERROR, QT_TR_NOOP("A variable has sub-objects"),
+         QT_TR_NOOP("Tools drop them or refuse the file. Make it an ARRAY (8) or RECORD (9)."), subObjectsOfVariable},
+        {"missing-subindex-0", ERROR, QT_TR_NOOP("An array or record has no sub-index 0"),
+         QT_TR_NOOP("Tools read the number of elements from it. Add it as UNSIGNED8."), missingSubIndex0},
+        {"missing-mandatory-object", WARNING, QT_TR_NOOP("0x1000, 0x1001 or 0x1018 is missing"),
+         QT_TR_NOOP("Every device has these objects, and masters read them at start-up. Add it."),
          missingMandatoryObject},
-        {"missing-error-control", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "There is neither a heartbeat nor node guarding"),
-         QT_TRANSLATE_NOOP(
-             "CFindings", "A master cannot see whether the device is alive. Add 0x1017, or 0x100C and 0x100D."),
+        {"missing-error-control", WARNING, QT_TR_NOOP("There is neither a heartbeat nor node guarding"),
+         QT_TR_NOOP("A master cannot see whether the device is alive. Add 0x1017, or 0x100C and 0x100D."),
          missingErrorControl},
-        {"highest-subindex", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "The default of a fixed sub-index 0 is not the highest sub-index"),
-         QT_TRANSLATE_NOOP(
-             "CFindings",
-             "Tools that go by it stop too early or ask for what is not there. State the highest sub-index below 255."),
+        {"highest-subindex", WARNING,
+         QT_TR_NOOP("The default value of a fixed sub-index 0 is not the highest sub-index"),
+         QT_TR_NOOP("Tools stop too early or ask for what is not there. State the highest sub-index below 255."),
          highestSubIndex},
-        {"sub-number", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "subNumber is not the number of sub-objects"),
-         QT_TRANSLATE_NOOP("CFindings", "Something was added or removed by hand. Count sub-index 0, too."), subNumber},
-        {"object-count", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "A stated count of objects is not the number found"),
-         QT_TRANSLATE_NOOP("CFindings", "Something was added or removed by hand. Count again, or remove the count."),
-         objectCount},
+        {"sub-number", WARNING, QT_TR_NOOP("subNumber is not the number of sub-objects"),
+         QT_TR_NOOP("Something was added or removed by hand. Count again, with sub-index 0."), subNumber},
+        {"object-count", WARNING, QT_TR_NOOP("A stated number of objects is not the number in the dictionary"),
+         QT_TR_NOOP("Something was added or removed by hand. Count again, or remove the number."), objectCount},
     };
     return rules;
 }

@@ -1,115 +1,111 @@
-#include "CCanOpenNames.h"
 #include "NIso15745Tags.h"
 #include "canopen/DataTypes.h"
+#include "canopen/NFormatWords.h"
 #include "canopen/ObjectCodes.h"
-#include "canopen/Pdos.h"
-#include "canopen/ProcessNames.h"
-#include "check/CFindings.h"
-#include "check/CheckRules.h"
+#include "check/CCheckRules.h"
 #include "check/Walks.h"
 
+#include <algorithm>
 #include <array>
 
 using namespace NIso15745Tags;
-using namespace NProcessNames;
+using namespace NFormatWords;
 
 namespace
 {
-void subIndex0Type(const SChecked& checked, CFindings& findings)
+void subIndex0Type(const CDescription& description, CRemarks& findings)
 {
-    for (const SDictionaryEntry& entry : checked.dictionary.entries()) {
+    for (const SEntry& entry : description.dictionary().entries()) {
+        const unsigned int type = entry.dataType.value;
         const bool isFirst =
-            entry.isSubObject && entry.subIndex == 0U && checked.dictionary.objectOf(entry).isArrayOrRecord();
-        if (isFirst && entry.dataType != 0 && entry.dataType != TYPE_UNSIGNED8) {
+            entry.isSubObject && entry.subIndex == 0U && description.dictionary().objectOf(entry).isArrayOrRecord();
+        if (isFirst && type != 0 && type != TYPE_UNSIGNED8) {
             findings.add(
-                entry,
-                CFindings::tr("the data type is %1, not UNSIGNED8").arg(CCanOpenNames::dataType(entry.dataType)));
+                entry, CRemarks::tr("the data type is %1 instead of UNSIGNED8"), {CCanOpenNames::dataType(type)});
         }
     }
 }
 
-void missingDataType(const SChecked& checked, CFindings& findings)
+void missingDataType(const CDescription& description, CRemarks& findings)
 {
-    forVariables(checked, [&](const SDictionaryEntry& entry) {
-        const bool refersToType = !entry.parameter.element().child(TAG_DATA_TYPE_ID_REF).isNull();
-        if (entry.objectType == CODE_VAR && entry.dataType == 0 && !refersToType) {
-            findings.add(entry, CFindings::tr("a VAR without a data type"));
+    forVariables(description, [&](const SEntry& entry) {
+        const bool refersToType = !entry.parameter.child(TAG_DATA_TYPE_ID_REF).isNull();
+        if (entry.objectCode != CODE_VAR || entry.dataType.value != 0 || refersToType) {
+            return;
+        }
+        if (entry.dataType.isGiven()) {
+            findings.add(entry, CRemarks::tr("dataType \"%1\" is not a data type"), {entry.dataType.text});
+        } else {
+            findings.add(entry, CRemarks::tr("VAR without a data type"));
         }
     });
 }
 
-void unknownDataType(const SChecked& checked, CFindings& findings)
+void unknownDataType(const CDescription& description, CRemarks& findings)
 {
-    forVariables(checked, [&](const SDictionaryEntry& entry) {
-        const bool isKnown = entry.dataType == 0 || valueKind(entry.dataType) != EValueKind::None
-                             || isBetween(entry.dataType, 0x40, 0x25F);
-        if (!isKnown) {
+    forVariables(description, [&](const SEntry& entry) {
+        const unsigned int type = entry.dataType.value;
+        const EValueKind kind = valueKind(type);
+        if (kind == EValueKind::Record) {
+            findings.add(entry, CRemarks::tr("the data type %1 is that of a record"), {CCanOpenNames::dataType(type)});
+        } else if (type != 0 && kind == EValueKind::None && !isBetween(type, FIRST_OWN_TYPE, LAST_TYPE)) {
+            findings.add(entry, CRemarks::tr("the data type %1 is unknown"), {CCanOpenNames::dataType(type)});
+        }
+    });
+}
+
+void missingAccessType(const CDescription& description, CRemarks& findings)
+{
+    forVariables(description, [&](const SEntry& entry) {
+        if (entry.access.value == EAccess::NotStated) {
+            findings.add(entry, CRemarks::tr("no access type is stated"));
+        }
+    });
+}
+
+void noAccess(const CDescription& description, CRemarks& findings)
+{
+    forVariables(description, [&](const SEntry& entry) {
+        const bool isOnlyMapped = isMappable(entry.mapping) && entry.index.value_or(0) >= 0x2000;
+        if (entry.access.value == EAccess::None && !isOnlyMapped) {
             findings.add(
-                entry,
-                isBetween(entry.dataType, 0x20, 0x26)
-                    ? CFindings::tr("the data type %1 is that of a record").arg(CCanOpenNames::dataType(entry.dataType))
-                    : CFindings::tr("the data type %1 is not known").arg(CCanOpenNames::index(entry.dataType)));
-        }
-    });
-}
-
-void missingAccessType(const SChecked& checked, CFindings& findings)
-{
-    forVariables(checked, [&](const SDictionaryEntry& entry) {
-        if (entry.access.text.isNull()) {
-            findings.add(entry, CFindings::tr("no access type is stated"));
-        }
-    });
-}
-
-void noAccess(const SChecked& checked, CFindings& findings)
-{
-    forVariables(checked, [&](const SDictionaryEntry& entry) {
-        const bool isOnlyMapped = entry.isMappable() && entry.index.value_or(0) >= 0x2000;
-        if (entry.access.text == VAL_NO_ACCESS && !isOnlyMapped) {
-            findings.add(
-                entry, CFindings::tr("it can be neither read nor written: access is %1")
-                           .arg(CFindings::quoted(entry.access, entry.element)));
+                entry, CRemarks::tr("it can be neither read nor written: access is %1"),
+                {quoted(entry.access.text, entry.access.source, entry.element)});
         }
     });
 }
 
 // An entry and its parameter disagree about an attribute.
 void conflict(
-    const SDictionaryEntry& entry, QLatin1String attribute, const QString& own, const SStated& other,
-    CFindings& findings)
+    const SEntry& entry, QLatin1String attribute, const QString& stated, const CXmlElement& source, CRemarks& findings)
 {
     findings.add(
-        entry, CFindings::tr("%1 \"%2\" differs from %3 of its parameter")
-                   .arg(attribute, own, CFindings::quoted(other, entry.element)));
+        entry, CRemarks::tr("%1 \"%2\" differs from %3 of its parameter"),
+        {attribute, entry.element.attribute(attribute), quoted(stated, source, entry.element)});
 }
 
-void referenceConflict(const SChecked& checked, CFindings& findings)
+void referenceConflict(const CDescription& description, CRemarks& findings)
 {
-    forVariables(checked, [&](const SDictionaryEntry& entry) {
-        const CParameter& parameter = entry.parameter;
-        const CXmlElement& element = entry.element;
-        if (parameter.isNull()) {
+    forVariables(description, [&](const SEntry& entry) {
+        if (entry.parameter.isNull()) {
             return;
         }
-        const QString type = parameter.dataType(element.attribute(ATTR_OBJECT_TYPE));
-        if (entry.ownsDataType && entry.dataType != TYPE_DOMAIN && !type.isEmpty()
-            && type.toUInt(nullptr, 16) != entry.dataType) {
-            const SStated other = {CCanOpenNames::dataType(type.toUInt(nullptr, 16)), parameter.element()};
-            conflict(entry, ATTR_DATA_TYPE, element.attribute(ATTR_DATA_TYPE), other, findings);
+        const SProperties other = CDictionary::fromParameter(entry);
+        const auto isOwn = [&](const auto& property) {
+            return property.isGiven() && property.source == entry.element;
+        };
+        const unsigned int type = other.dataType.value;
+        if (isOwn(entry.dataType) && type != 0 && entry.dataType.value != TYPE_DOMAIN && entry.dataType.value != type) {
+            conflict(entry, ATTR_DATA_TYPE, CCanOpenNames::dataType(type), entry.parameter, findings);
         }
-        const QString access = element.attribute(ATTR_ACCESS_TYPE);
-        const QString stated = parameter.element().attribute(ATTR_ACCESS);
-        const QString accessOfParameter = stated.isNull() ? QString(VAL_OBJ_ACCESS_RO) : parameter.accessType();
-        if (!access.isEmpty() && access != accessOfParameter) {
-            const SStated other = {stated.isNull() ? QStringLiteral("read") : stated, parameter.element()};
-            conflict(entry, ATTR_ACCESS_TYPE, access, other, findings);
+        if (isOwn(entry.access) && entry.access.value != other.access.value) {
+            const QString stated = other.access.isGiven() ? other.access.text : QString(VAL_ACCESS_READ);
+            conflict(entry, ATTR_ACCESS_TYPE, stated, entry.parameter, findings);
         }
-        const QString own = element.attribute(ATTR_DEFAULT_VALUE);
-        const SStated other = {parameter.defaultValue().attribute(ATTR_VALUE), parameter.defaultValue()};
-        if (!own.isEmpty() && other.isGiven() && own != other.text
-            && !(entry.value && CValue::read(other.text, entry.dataType) == entry.value)) {
-            conflict(entry, ATTR_DEFAULT_VALUE, own, other, findings);
+        const bool isSameText = entry.defaultValue.text == other.defaultValue.text;
+        const bool isSameValue = entry.defaultValue.value && other.defaultValue.value == entry.defaultValue.value;
+        if (isOwn(entry.defaultValue) && other.defaultValue.isGiven() && !isSameText && !isSameValue) {
+            conflict(entry, ATTR_DEFAULT_VALUE, other.defaultValue.text, other.defaultValue.source, findings);
         }
     });
 }
@@ -126,140 +122,143 @@ unsigned int typeOf(const CXmlElement& declared)
 }
 
 // Finds out whether a declared type is another one than that of a sub-object. A block of data may have any.
-bool isOtherType(unsigned int declared, const SDictionaryEntry& entry)
+bool isOtherType(unsigned int declared, const SEntry& entry)
 {
-    return declared != 0 && entry.dataType != 0 && entry.dataType != TYPE_DOMAIN && entry.dataType != declared;
+    const unsigned int type = entry.dataType.value;
+    return declared != 0 && type != 0 && type != TYPE_DOMAIN && type != declared;
 }
 
-void otherType(const CXmlElement& declared, unsigned int type, const SDictionaryEntry& entry, CFindings& findings)
+void otherType(const CXmlElement& declared, const SEntry& entry, CRemarks& findings)
 {
     findings.add(
-        declared,
-        CFindings::tr("the type is %1, but that of %2 (line %3) is %4")
-            .arg(CCanOpenNames::dataType(type), entry.name(), lineOf(entry), CCanOpenNames::dataType(entry.dataType)));
+        declared, CRemarks::tr("<%1> \"%2\" has the type %3, but %4 (line %5) has %6"),
+        {SArgument::word(declared.name()), declared.attribute(ATTR_NAME), CCanOpenNames::dataType(typeOf(declared)),
+         entry.place().entry(), entry.element.line(), CCanOpenNames::dataType(entry.dataType.value)});
 }
 
-void typeListConflict(const SChecked& checked, CFindings& findings)
+void arrayConflict(const CXmlElement& declared, const std::vector<const SEntry*>& subObjects, CRemarks& findings)
 {
-    forObjects(checked, [&](const SDictionaryEntry& object) {
-        const CXmlElement declared = object.parameter.referredType();
-        const auto subObjects = checked.dictionary.subObjects(object);
-        if (subObjects.empty()) {
-            return;
+    const auto other = std::find_if(subObjects.begin(), subObjects.end(), [&](const SEntry* entry) {
+        return entry->subIndex != 0U && isOtherType(typeOf(declared), *entry);
+    });
+    if (other != subObjects.end()) {
+        otherType(declared, **other, findings);
+    }
+}
+
+void structConflict(
+    const CXmlElement& declared, const SEntry& object, const std::vector<const SEntry*>& subObjects, CRemarks& findings)
+{
+    const std::vector<CXmlElement> members = declared.children(TAG_VAR_DECLARATION);
+    if (members.size() != subObjects.size()) {
+        findings.add(
+            declared.place(),
+            CRemarks::tr(
+                "the structure has %n member(s), but %1 (line %2) has another number of sub-objects: %3", nullptr,
+                int(members.size())),
+            {object.place().entry(), object.element.line(), int(subObjects.size())});
+        return;
+    }
+    for (std::size_t member = 0; member < members.size(); ++member) {
+        if (isOtherType(typeOf(members[member]), *subObjects[member])) {
+            otherType(members[member], *subObjects[member], findings);
         }
+    }
+}
+
+void typeListConflict(const CDescription& description, CRemarks& findings)
+{
+    forObjects(description, [&](const SEntry& object) {
+        const CXmlElement declared = description.references().referredType(object.parameter);
+        const auto subObjects = description.dictionary().subObjects(object);
         if (declared.is(TAG_ARRAY)) {
-            const unsigned int type = typeOf(declared);
-            for (const SDictionaryEntry* const entry : subObjects) {
-                if (entry->subIndex != 0U && isOtherType(type, *entry)) {
-                    otherType(declared, type, *entry, findings);
-                    return;
-                }
-            }
-        } else if (declared.is(TAG_STRUCT)) {
-            const std::vector<CXmlElement> members = declared.children(TAG_VAR_DECLARATION);
-            if (members.size() != subObjects.size()) {
-                findings.add(
-                    declared, CFindings::tr("the structure has %1 members, but %2 (line %3) has %4 sub-objects")
-                                  .arg(
-                                      QString::number(members.size()), object.name(), lineOf(object),
-                                      QString::number(subObjects.size())));
-                return;
-            }
-            for (std::size_t member = 0; member < members.size(); ++member) {
-                const unsigned int type = typeOf(members[member]);
-                if (isOtherType(type, *subObjects[member])) {
-                    otherType(members[member], type, *subObjects[member], findings);
-                }
-            }
+            arrayConflict(declared, subObjects, findings);
+        } else if (declared.is(TAG_STRUCT) && !subObjects.empty()) {
+            structConflict(declared, object, subObjects, findings);
         }
     });
 }
 
-// The data type that CiA 301 gives to an object or sub-object; 0 where it gives none.
+// The data type that CiA 301 gives to a range of entries.
+struct SStandardType
+{
+    unsigned int firstIndex;
+    unsigned int lastIndex;
+    unsigned int firstSubIndex; // 0 for an object without sub-objects
+    unsigned int lastSubIndex;
+    unsigned int dataType;
+};
+constexpr unsigned int ANY = 254; // The last element
+constexpr std::array STANDARD_TYPES = {
+    SStandardType{0x1000, 0x1000, 0, 0, TYPE_UNSIGNED32},   SStandardType{0x1001, 0x1001, 0, 0, TYPE_UNSIGNED8},
+    SStandardType{0x1002, 0x1002, 0, 0, TYPE_UNSIGNED32},   SStandardType{0x1003, 0x1003, 1, ANY, TYPE_UNSIGNED32},
+    SStandardType{0x1005, 0x1007, 0, 0, TYPE_UNSIGNED32},   SStandardType{0x1008, 0x100A, 0, 0, TYPE_VISIBLE_STRING},
+    SStandardType{0x100C, 0x100C, 0, 0, TYPE_UNSIGNED16},   SStandardType{0x100D, 0x100D, 0, 0, TYPE_UNSIGNED8},
+    SStandardType{0x1010, 0x1011, 1, ANY, TYPE_UNSIGNED32}, SStandardType{0x1012, 0x1014, 0, 0, TYPE_UNSIGNED32},
+    SStandardType{0x1015, 0x1015, 0, 0, TYPE_UNSIGNED16},   SStandardType{0x1016, 0x1016, 1, ANY, TYPE_UNSIGNED32},
+    SStandardType{0x1017, 0x1017, 0, 0, TYPE_UNSIGNED16},   SStandardType{0x1018, 0x1018, 1, ANY, TYPE_UNSIGNED32},
+    SStandardType{0x1019, 0x1019, 0, 0, TYPE_UNSIGNED8},    SStandardType{0x1020, 0x1020, 1, ANY, TYPE_UNSIGNED32},
+    SStandardType{0x1028, 0x1028, 1, ANY, TYPE_UNSIGNED32}, SStandardType{0x1029, 0x1029, 1, ANY, TYPE_UNSIGNED8},
+    SStandardType{0x1200, 0x12FF, 1, 2, TYPE_UNSIGNED32},   SStandardType{0x1200, 0x12FF, 3, 3, TYPE_UNSIGNED8},
+    SStandardType{0x1400, 0x15FF, 1, 1, TYPE_UNSIGNED32},   SStandardType{0x1400, 0x15FF, 2, 2, TYPE_UNSIGNED8},
+    SStandardType{0x1400, 0x15FF, 3, 3, TYPE_UNSIGNED16},   SStandardType{0x1400, 0x15FF, 4, 4, TYPE_UNSIGNED8},
+    SStandardType{0x1400, 0x15FF, 5, 5, TYPE_UNSIGNED16},   SStandardType{0x1400, 0x15FF, 6, 6, TYPE_UNSIGNED8},
+    SStandardType{0x1600, 0x17FF, 1, ANY, TYPE_UNSIGNED32}, SStandardType{0x1800, 0x19FF, 1, 1, TYPE_UNSIGNED32},
+    SStandardType{0x1800, 0x19FF, 2, 2, TYPE_UNSIGNED8},    SStandardType{0x1800, 0x19FF, 3, 3, TYPE_UNSIGNED16},
+    SStandardType{0x1800, 0x19FF, 4, 4, TYPE_UNSIGNED8},    SStandardType{0x1800, 0x19FF, 5, 5, TYPE_UNSIGNED16},
+    SStandardType{0x1800, 0x19FF, 6, 6, TYPE_UNSIGNED8},    SStandardType{0x1A00, 0x1BFF, 1, ANY, TYPE_UNSIGNED32},
+};
+
+// 0 where CiA 301 gives none.
 unsigned int standardType(unsigned int index, unsigned int subIndex)
 {
-    constexpr std::array variables32 = {0x1000U, 0x1002U, 0x1005U, 0x1006U, 0x1007U, 0x1012U, 0x1013U, 0x1014U};
-    constexpr std::array variables16 = {0x100CU, 0x1015U, 0x1017U};
-    constexpr std::array variables8 = {0x1001U, 0x100DU, 0x1019U};
-    constexpr std::array texts = {0x1008U, 0x1009U, 0x100AU};
-    constexpr std::array elements32 = {0x1003U, 0x1010U, 0x1011U, 0x1016U, 0x1018U, 0x1020U, 0x1028U};
-    constexpr std::array pdoParameters = {
-        0U, TYPE_UNSIGNED32, TYPE_UNSIGNED8, TYPE_UNSIGNED16, TYPE_UNSIGNED8, TYPE_UNSIGNED16, TYPE_UNSIGNED8};
-    if (subIndex == 0) {
-        return contains(variables32, index)   ? TYPE_UNSIGNED32
-               : contains(variables16, index) ? TYPE_UNSIGNED16
-               : contains(variables8, index)  ? TYPE_UNSIGNED8
-               : contains(texts, index)       ? TYPE_VISIBLE_STRING
-                                              : 0;
-    }
-    if (contains(elements32, index) || mappingDirection(index)) {
-        return TYPE_UNSIGNED32;
-    }
-    if (index == 0x1029) {
-        return TYPE_UNSIGNED8;
-    }
-    if (communicationDirection(index)) {
-        return subIndex < pdoParameters.size() ? pdoParameters[subIndex] : 0;
-    }
-    if (isBetween(index, 0x1200, 0x12FF)) {
-        return subIndex <= 2 ? TYPE_UNSIGNED32 : subIndex == 3 ? TYPE_UNSIGNED8 : 0;
-    }
-    return 0;
+    const auto found = std::find_if(STANDARD_TYPES.begin(), STANDARD_TYPES.end(), [&](const SStandardType& row) {
+        return isBetween(index, row.firstIndex, row.lastIndex)
+               && isBetween(subIndex, row.firstSubIndex, row.lastSubIndex);
+    });
+    return found == STANDARD_TYPES.end() ? 0 : found->dataType;
 }
 
-void standardObjectType(const SChecked& checked, CFindings& findings)
+// Sub-index 0 of a sub-object has a rule of its own.
+void standardObjectType(const CDescription& description, CRemarks& findings)
 {
-    forVariables(checked, [&](const SDictionaryEntry& entry) {
-        if (!entry.index || entry.dataType == 0 || (entry.isSubObject && !entry.subIndex)
-            || (entry.isSubObject && entry.subIndex == 0U)) {
+    forVariables(description, [&](const SEntry& entry) {
+        if (!entry.index || entry.dataType.value == 0 || (entry.isSubObject && entry.subIndex.value_or(0) == 0)) {
             return;
         }
         const unsigned int type = standardType(*entry.index, entry.subIndex.value_or(0));
-        if (type != 0 && entry.dataType != type) {
+        if (type != 0 && entry.dataType.value != type) {
             findings.add(
-                entry, CFindings::tr("the data type is %1, but CiA 301 gives it %2")
-                           .arg(CCanOpenNames::dataType(entry.dataType), CCanOpenNames::dataType(type)));
+                entry, CRemarks::tr("the data type is %1, but CiA 301 specifies %2"),
+                {CCanOpenNames::dataType(entry.dataType.value), CCanOpenNames::dataType(type)});
         }
     });
 }
 } // namespace
 
-const CheckRules& typeRules()
+const CheckRules& CCheckRules::type()
 {
     static const CheckRules rules = {
-        {"subindex-0-type", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "Sub-index 0 of an array or record is not UNSIGNED8"),
-         QT_TRANSLATE_NOOP("CFindings", "CiA 301 demands that type, and a tool writes that length. Use 0005."),
-         subIndex0Type},
-        {"missing-data-type", CXddFinding::SEVERITY_ERROR, QT_TRANSLATE_NOOP("CFindings", "A VAR has no data type"),
-         QT_TRANSLATE_NOOP(
-             "CFindings", "Tools do not know its length and refuse it. Add dataType or a parameter with one."),
+        {"subindex-0-type", WARNING, QT_TR_NOOP("Sub-index 0 of an array or record is not UNSIGNED8"),
+         QT_TR_NOOP("CiA 301 specifies that type, and tools access that length. Use 0005."), subIndex0Type},
+        {"missing-data-type", ERROR, QT_TR_NOOP("A VAR has no data type"),
+         QT_TR_NOOP("Tools do not know its length and refuse it. Add dataType or a parameter with one."),
          missingDataType},
-        {"unknown-data-type", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "The data type of a variable is that of a record, or not known"),
-         QT_TRANSLATE_NOOP("CFindings", "Tools do not know its length. Use a type of CiA 301 such as 0007."),
-         unknownDataType},
-        {"missing-access-type", CXddFinding::SEVERITY_ERROR,
-         QT_TRANSLATE_NOOP("CFindings", "A variable has no access type"),
-         QT_TRANSLATE_NOOP("CFindings", "Tools refuse it or take it for read only. Add ro, wo, rw or const."),
-         missingAccessType},
-        {"no-access", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "A variable can be neither read nor written"),
-         QT_TRANSLATE_NOOP("CFindings", "Nobody can use it. State the access of its parameter, or remove it."),
-         noAccess},
-        {"reference-conflict", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "dataType, accessType or defaultValue of an entry differs from its parameter"),
-         QT_TRANSLATE_NOOP("CFindings", "Tools go by one or the other. State it at one place, or the same at both."),
-         referenceConflict},
-        {"type-list-conflict", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "An array or structure of the type list does not describe its object"),
-         QT_TRANSLATE_NOOP(
-             "CFindings", "Tools go by one or the other. Write the same types and members at both places."),
+        {"unknown-data-type", WARNING, QT_TR_NOOP("The data type of a variable is that of a record, or unknown"),
+         QT_TR_NOOP("Tools do not know its length. Use a type of CiA 301 such as 0007."), unknownDataType},
+        {"missing-access-type", ERROR, QT_TR_NOOP("A variable has no access type"),
+         QT_TR_NOOP("Tools refuse it or take it as read-only. Add ro, wo, rw or const."), missingAccessType},
+        {"no-access", WARNING, QT_TR_NOOP("A variable can be neither read nor written"),
+         QT_TR_NOOP("Nobody can use it. State the access of its parameter, or remove it."), noAccess},
+        {"reference-conflict", WARNING,
+         QT_TR_NOOP("dataType, accessType or defaultValue of an entry differs from its parameter"),
+         QT_TR_NOOP("Tools go by one or the other. State it once, or the same at both places."), referenceConflict},
+        {"type-list-conflict", WARNING, QT_TR_NOOP("An array or structure of the type list does not match its object"),
+         QT_TR_NOOP("Tools go by one or the other. State the same types and members at both places."),
          typeListConflict},
-        {"standard-object-type", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "An object of CiA 301 has another data type"),
-         QT_TRANSLATE_NOOP(
-             "CFindings", "Masters access these objects with the standard's length. Use the standard's type."),
+        {"standard-object-type", WARNING,
+         QT_TR_NOOP("An object of CiA 301 has another data type than the standard specifies"),
+         QT_TR_NOOP("Masters access these objects with the length of the standard. Use its data type."),
          standardObjectType},
     };
     return rules;

@@ -1,162 +1,140 @@
-#include "CCanOpenNames.h"
-#include "NIso15745Tags.h"
 #include "canopen/DataTypes.h"
-#include "check/CFindings.h"
-#include "check/CheckRules.h"
+#include "check/CCheckRules.h"
+#include "check/Walks.h"
 
 #include <array>
 
-using namespace NIso15745Tags;
-
 namespace
 {
-// A value or limit that an entry has.
+// A value or limit of an entry, and what it is called.
 struct SNamedValue
 {
-    QLatin1String name;
-    const SStated* stated;
-    std::optional<CValue> value; // Nothing when it is not given or not readable
+    QString name;
+    const SValueProperty& property;
 };
 
-// The values and limits of an entry.
-struct SValues
+std::array<SNamedValue, 4> valuesOf(const SEntry& entry)
 {
-    SNamedValue defaultValue;
-    SNamedValue actualValue;
-    SNamedValue lowLimit;
-    SNamedValue highLimit;
-
-    std::array<const SNamedValue*, 4> all() const
-    {
-        return {&defaultValue, &actualValue, &lowLimit, &highLimit};
-    }
-};
-
-SValues valuesOf(const SDictionaryEntry& entry)
-{
-    const auto named = [&](QLatin1String name, const SStated& stated) {
-        return SNamedValue{name, &stated, stated.isGiven() ? CValue::read(stated.text, entry.dataType) : std::nullopt};
-    };
     return {
-        {ATTR_DEFAULT_VALUE, &entry.defaultValue, entry.value},
-        named(ATTR_ACTUAL_VALUE, entry.actualValue),
-        named(ATTR_LOW_LIMIT, entry.lowLimit),
-        named(ATTR_HIGH_LIMIT, entry.highLimit)};
+        {{CRemarks::tr("default value"), entry.defaultValue},
+         {CRemarks::tr("actual value"), entry.actualValue},
+         {CRemarks::tr("low limit"), entry.lowLimit},
+         {CRemarks::tr("high limit"), entry.highLimit}}};
+}
+
+// Calls for every entry of a type whose values are known.
+template <typename Look> void forTyped(const CDescription& description, Look look)
+{
+    forVariables(description, [&](const SEntry& entry) {
+        const EValueKind kind = valueKind(entry.dataType.value);
+        if (kind != EValueKind::None && kind != EValueKind::Record) {
+            look(entry);
+        }
+    });
+}
+
+// Calls for every value and limit of such an entry that is given.
+template <typename Look> void forValues(const CDescription& description, Look look)
+{
+    forTyped(description, [&](const SEntry& entry) {
+        for (const SNamedValue& value : valuesOf(entry)) {
+            if (value.property.isGiven()) {
+                look(entry, value);
+            }
+        }
+    });
 }
 
 // True for two numbers, the first of which is below the second.
-bool isBelow(const SNamedValue& low, const SNamedValue& high)
+bool isBelow(const SValueProperty& low, const SValueProperty& high)
 {
     return low.value && high.value && low.value->isBelow(*high.value);
 }
 
-// Calls for every entry of a type whose values are known, with its values.
-template <typename Look> void forTyped(const SChecked& checked, Look look)
+void badValue(const CDescription& description, CRemarks& findings)
 {
-    for (const SDictionaryEntry& entry : checked.dictionary.entries()) {
-        if (entry.isVariable() && valueKind(entry.dataType) != EValueKind::None) {
-            look(entry, valuesOf(entry));
-        }
-    }
-}
-
-QString shown(const SDictionaryEntry& entry, const SNamedValue& value)
-{
-    return QString(value.name) + QLatin1Char(' ') + CFindings::quoted(*value.stated, entry.element);
-}
-
-void badValue(const SChecked& checked, CFindings& findings)
-{
-    forTyped(checked, [&](const SDictionaryEntry& entry, const SValues& values) {
-        for (const SNamedValue* const value : values.all()) {
-            if (value->stated->isGiven() && !value->value) {
-                findings.add(
-                    entry,
-                    CFindings::tr("%1 is no %2").arg(shown(entry, *value), CCanOpenNames::dataType(entry.dataType)));
-            }
-        }
-    });
-}
-
-void valueOutOfRange(const SChecked& checked, CFindings& findings)
-{
-    forTyped(checked, [&](const SDictionaryEntry& entry, const SValues& values) {
-        for (const SNamedValue* const value : values.all()) {
-            if (value->value && !value->value->fits(entry.dataType)) {
-                findings.add(
-                    entry, CFindings::tr("%1 is out of the range of %2")
-                               .arg(shown(entry, *value), CCanOpenNames::dataType(entry.dataType)));
-            }
-        }
-    });
-}
-
-void limitsReversed(const SChecked& checked, CFindings& findings)
-{
-    forTyped(checked, [&](const SDictionaryEntry& entry, const SValues& values) {
-        if (isBelow(values.highLimit, values.lowLimit)) {
+    forValues(description, [&](const SEntry& entry, const SNamedValue& value) {
+        if (!value.property.value) {
             findings.add(
-                entry,
-                CFindings::tr("%1 is above %2").arg(shown(entry, values.lowLimit), shown(entry, values.highLimit)));
+                entry, CRemarks::tr("%1 %2 is not a value of %3"),
+                {SArgument::word(value.name), quoted(value.property, entry),
+                 CCanOpenNames::dataType(entry.dataType.value)});
         }
     });
 }
 
-void valueOutsideLimits(const SChecked& checked, CFindings& findings)
+void valueOutOfRange(const CDescription& description, CRemarks& findings)
 {
-    forTyped(checked, [&](const SDictionaryEntry& entry, const SValues& values) {
-        for (const SNamedValue* const value : {&values.defaultValue, &values.actualValue}) {
-            if (isBelow(*value, values.lowLimit)) {
+    forValues(description, [&](const SEntry& entry, const SNamedValue& value) {
+        if (value.property.value && !value.property.value->fits(entry.dataType.value)) {
+            findings.add(
+                entry, CRemarks::tr("%1 %2 is outside the range of %3"),
+                {SArgument::word(value.name), quoted(value.property, entry),
+                 CCanOpenNames::dataType(entry.dataType.value)});
+        }
+    });
+}
+
+void limitsReversed(const CDescription& description, CRemarks& findings)
+{
+    forTyped(description, [&](const SEntry& entry) {
+        if (isBelow(entry.highLimit, entry.lowLimit)) {
+            findings.add(
+                entry, CRemarks::tr("low limit %1 is above high limit %2"),
+                {quoted(entry.lowLimit, entry), quoted(entry.highLimit, entry)});
+        }
+    });
+}
+
+void valueOutsideLimits(const CDescription& description, CRemarks& findings)
+{
+    forTyped(description, [&](const SEntry& entry) {
+        const std::array<SNamedValue, 4> values = valuesOf(entry);
+        for (const SNamedValue& value : {values[0], values[1]}) {
+            if (isBelow(value.property, entry.lowLimit)) {
                 findings.add(
-                    entry, CFindings::tr("%1 is below %2").arg(shown(entry, *value), shown(entry, values.lowLimit)));
+                    entry, CRemarks::tr("%1 %2 is below low limit %3"),
+                    {SArgument::word(value.name), quoted(value.property, entry), quoted(entry.lowLimit, entry)});
             }
-            if (isBelow(values.highLimit, *value)) {
+            if (isBelow(entry.highLimit, value.property)) {
                 findings.add(
-                    entry, CFindings::tr("%1 is above %2").arg(shown(entry, *value), shown(entry, values.highLimit)));
+                    entry, CRemarks::tr("%1 %2 is above high limit %3"),
+                    {SArgument::word(value.name), quoted(value.property, entry), quoted(entry.highLimit, entry)});
             }
         }
     });
 }
 
-void nodeIdNotFirst(const SChecked& checked, CFindings& findings)
+void nodeIdNotFirst(const CDescription& description, CRemarks& findings)
 {
-    forTyped(checked, [&](const SDictionaryEntry& entry, const SValues& values) {
-        for (const SNamedValue* const value : values.all()) {
-            if (value->value && value->value->isNodeIdLast()) {
-                findings.add(entry, CFindings::tr("%1 does not begin with $NODEID").arg(shown(entry, *value)));
-            }
+    forValues(description, [&](const SEntry& entry, const SNamedValue& value) {
+        if (value.property.value && value.property.value->isNodeIdLast()) {
+            findings.add(
+                entry, CRemarks::tr("%1 %2 does not begin with $NODEID"),
+                {SArgument::word(value.name), quoted(value.property, entry)});
         }
     });
 }
 } // namespace
 
-const CheckRules& valueRules()
+const CheckRules& CCheckRules::value()
 {
     static const CheckRules rules = {
-        {"bad-value", CXddFinding::SEVERITY_ERROR,
-         QT_TRANSLATE_NOOP("CFindings", "A default, an actual value or a limit is no value of its data type"),
-         QT_TRANSLATE_NOOP(
-             "CFindings",
+        {"bad-value", ERROR, QT_TR_NOOP("A default value, actual value or limit is not a value of its data type"),
+         QT_TR_NOOP(
              "Tools refuse the file or take another value. Write numbers in decimal or with 0x, without a suffix."),
          badValue},
-        {"value-out-of-range", CXddFinding::SEVERITY_ERROR,
-         QT_TRANSLATE_NOOP("CFindings", "A default, an actual value or a limit does not fit into its data type"),
-         QT_TRANSLATE_NOOP("CFindings", "Tools cut it off or refuse it. Mend the value or the data type."),
-         valueOutOfRange},
-        {"limits-reversed", CXddFinding::SEVERITY_ERROR, QT_TRANSLATE_NOOP("CFindings", "lowLimit is above highLimit"),
-         QT_TRANSLATE_NOOP(
-             "CFindings",
-             "Tools that keep limits refuse every value. Exchange them; of a signed type, 0x80 and up may be "
-             "meant as negative."),
+        {"value-out-of-range", ERROR,
+         QT_TR_NOOP("A default value, actual value or limit does not fit into its data type"),
+         QT_TR_NOOP("Tools cut it off or refuse it. Correct the value or the data type."), valueOutOfRange},
+        {"limits-reversed", ERROR, QT_TR_NOOP("The low limit is above the high limit"),
+         QT_TR_NOOP(
+             "Tools that respect limits refuse every value. Exchange them; with a signed type, 0x80 and up may be meant as negative."),
          limitsReversed},
-        {"value-outside-limits", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "A default or actual value lies outside of its limits"),
-         QT_TRANSLATE_NOOP("CFindings", "Tools that keep limits refuse the value. Mend one of them."),
-         valueOutsideLimits},
-        {"nodeid-not-first", CXddFinding::SEVERITY_WARNING,
-         QT_TRANSLATE_NOOP("CFindings", "A value is written N+$NODEID"),
-         QT_TRANSLATE_NOOP("CFindings", "Tools that follow the standard lose the node-ID. Write $NODEID+N."),
-         nodeIdNotFirst},
+        {"value-outside-limits", WARNING, QT_TR_NOOP("A default or actual value is outside its limits"),
+         QT_TR_NOOP("Tools that respect limits refuse the value. Correct one of them."), valueOutsideLimits},
+        {"nodeid-not-first", WARNING, QT_TR_NOOP("A value is written N+$NODEID"),
+         QT_TR_NOOP("Tools that follow the standard lose the node-ID. Write $NODEID+N."), nodeIdNotFirst},
     };
     return rules;
 }

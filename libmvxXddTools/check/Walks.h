@@ -1,41 +1,45 @@
 #ifndef MVXXDDTOOLS_WALKS_H
 #define MVXXDDTOOLS_WALKS_H
 
-#include "check/CheckRules.h"
-
-#include <algorithm>
+#include "CCanOpenNames.h"
+#include "check/CCheckRules.h"
 
 /** @file
  * How rules go through a dictionary, and the small questions that they ask.
  */
 
-template <typename List> bool contains(const List& list, unsigned int number)
-{
-    return std::find(std::begin(list), std::end(list), number) != std::end(list);
-}
-
-inline bool isBetween(unsigned int number, unsigned int first, unsigned int last)
+constexpr bool isBetween(unsigned int number, unsigned int first, unsigned int last)
 {
     return number >= first && number <= last;
 }
 
-inline QString lineOf(const SDictionaryEntry& entry)
+/** A text in quotes, with the line of the element that states it unless that is the given one. */
+inline SArgument quoted(const QString& text, const CXmlElement& source, const CXmlElement& element)
 {
-    return QString::number(entry.element.line());
+    SArgument argument(QString{});
+    argument.shown = source.isNull() || source == element
+                         ? QStringLiteral("\"%1\"").arg(CRemarks::cut(text))
+                         : CRemarks::filled(CRemarks::tr("\"%1\" (line %2)"), {text, source.line()});
+    return argument;
+}
+
+inline SArgument quoted(const SValueProperty& property, const SEntry& entry)
+{
+    return quoted(property.text, property.source, entry.element);
 }
 
 /** Calls for every object. */
-template <typename Look> void forObjects(const SChecked& checked, Look look)
+template <typename Look> void forObjects(const CDescription& description, Look look)
 {
-    for (const std::size_t number : checked.dictionary.objects()) {
-        look(checked.dictionary.entries()[number]);
+    for (const std::size_t number : description.dictionary().objects()) {
+        look(description.dictionary().entries()[number]);
     }
 }
 
 /** Calls for everything that has a value. */
-template <typename Look> void forVariables(const SChecked& checked, Look look)
+template <typename Look> void forVariables(const CDescription& description, Look look)
 {
-    for (const SDictionaryEntry& entry : checked.dictionary.entries()) {
+    for (const SEntry& entry : description.dictionary().entries()) {
         if (entry.isVariable()) {
             look(entry);
         }

@@ -34,8 +34,3 @@ SEdsText CEdsSections::text(const QString& name, const QString& value)
     line(name, text.text);
     return text;
 }
-
-QByteArray CEdsSections::bytes() const
-{
-    return mText.toUtf8();
-}

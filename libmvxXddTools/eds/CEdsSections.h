@@ -19,7 +19,7 @@ public:
      * changed. */
     SEdsText text(const QString& name, const QString& value);
 
-    QByteArray bytes() const;
+    QByteArray bytes() const { return mText.toUtf8(); }
 
 private:
     void line(const QString& name, const QString& value);

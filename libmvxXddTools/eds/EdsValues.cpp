@@ -51,6 +51,7 @@ SEdsValue edsValue(const QString& text, unsigned int dataType)
     SEdsValue result;
     switch (valueKind(dataType)) {
     case EValueKind::None:
+    case EValueKind::Record:
     case EValueKind::Text:
         result.isText = dataType != TYPE_DOMAIN && dataType != TYPE_OCTET_STRING;
         result.text = result.isText ? text : octets(text);
@@ -116,9 +117,4 @@ QString edsTime(const QTime& time)
         .arg(hour, 2, 10, QLatin1Char('0'))
         .arg(time.minute(), 2, 10, QLatin1Char('0'))
         .arg(time.hour() < 12 ? QLatin1String("AM") : QLatin1String("PM"));
-}
-
-QString edsNumber(quint64 number)
-{
-    return HEXADECIMAL_PREFIX + QStringLiteral("%1").arg(number, 8, 16, QLatin1Char('0')).toUpper();
 }

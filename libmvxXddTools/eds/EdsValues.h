@@ -40,7 +40,4 @@ QString edsDate(const QDate& date);
 /** "09:09AM"; half past midnight is "12:30AM". */
 QString edsTime(const QTime& time);
 
-/** "0x0000000A" */
-QString edsNumber(quint64 number);
-
 #endif

@@ -1,10 +1,5 @@
 #include "NIso15745Tags.h"
-#include "canopen/BitRates.h"
-#include "canopen/CDescription.h"
-#include "normalize/NormalizeRules.h"
-#include "text/CXmlEdits.h"
-
-#include <QCoreApplication>
+#include "normalize/CNormalizeRules.h"
 
 using namespace NIso15745Tags;
 
@@ -25,6 +20,13 @@ SNewElement defaultPhysicalLayer()
     return around(TAG_PHYSICAL_LAYER, baudRate);
 }
 
+// The format's text of a bit rate; nothing when a text means none.
+QString rateText(const QString& text)
+{
+    const CNetworkCanOpenProfile::EBaudrate rate = bitRateOf(text);
+    return rate == CNetworkCanOpenProfile::BAUD_INVALID ? QString() : CNetworkCanOpenProfile::baudrateAsStr(rate);
+}
+
 void missingRates(const CDescription& description, CXmlEdits& edits)
 {
     for (const CXmlElement& body : description.bodies(EProfile::Network)) {
@@ -41,9 +43,9 @@ void missingRates(const CDescription& description, CXmlEdits& edits)
         } else {
             const bool stated = baudRate.has(ATTR_DEFAULT_VALUE);
             if (!stated) {
-                edits.supply(baudRate, ATTR_DEFAULT_VALUE, VAL_BAUD_250_KBPS, true);
+                edits.supply(baudRate, ATTR_DEFAULT_VALUE, VAL_BAUD_250_KBPS);
             }
-            const QString rate = stated ? bitRateText(baudRate.attribute(ATTR_DEFAULT_VALUE)) : VAL_BAUD_250_KBPS;
+            const QString rate = stated ? rateText(baudRate.attribute(ATTR_DEFAULT_VALUE)) : VAL_BAUD_250_KBPS;
             if (baudRate.child(TAG_SUPPORTED_BAUD_RATE).isNull() && !rate.isEmpty()) {
                 edits.supplyChildren(baudRate, {supportedRate(rate)});
             }
@@ -54,7 +56,7 @@ void missingRates(const CDescription& description, CXmlEdits& edits)
 void rateWriting(const CXmlElement& element, QLatin1String attribute, CXmlEdits& edits)
 {
     const QString text = element.attribute(attribute);
-    const QString rate = bitRateText(text);
+    const QString rate = rateText(text);
     if (text.isNull() || rate == text) {
         return;
     }
@@ -72,20 +74,17 @@ void rateWritings(const CDescription& description, CXmlEdits& edits)
 }
 } // namespace
 
-const NormalizeRules& bitRateRules()
+const NormalizeRules& CNormalizeRules::bitRate()
 {
     static const NormalizeRules rules = {
-        {"bit-rate-writing",
-         QT_TRANSLATE_NOOP(
-             "mvxXddTools", "A bit rate is written in another way, such as 250, 250kBit/s or 1 Mbit/s: the format's"),
-         QT_TRANSLATE_NOOP("mvxXddTools", "the format's writing of the same rate, such as \"250 Kbps\""), true,
-         rateWritings},
-        {"bit-rate",
-         QT_TRANSLATE_NOOP(
-             "mvxXddTools", "TransportLayers, PhysicalLayer, baudRate, its defaultValue or every supportedBaudRate is "
-                            "missing: 250 Kbps; "
-                            "the default rate as the supported one"),
-         QT_TRANSLATE_NOOP("mvxXddTools", "the format's default is 250 Kbps"), false, missingRates},
+        {"bit-rate-writing", WARNING,
+         QT_TR_NOOP(
+             "A bit rate is written otherwise, such as 250, 250kBit/s or 1 Mbit/s: it gets the writing of the format"),
+         QT_TR_NOOP("the format writes the same rate in this way"), rateWritings},
+        {"bit-rate", NOTE,
+         QT_TR_NOOP(
+             "TransportLayers, PhysicalLayer, baudRate, its defaultValue or every supportedBaudRate is missing: 250 Kbps, or the default rate as the supported one"),
+         QT_TR_NOOP("the default of the format is 250 Kbps"), missingRates},
     };
     return rules;
 }

@@ -1,12 +1,7 @@
 #include "CXmlValue.h"
 #include "NIso15745Tags.h"
 #include "XmlValues.h"
-#include "canopen/CDescription.h"
-#include "normalize/NormalizeRules.h"
-#include "text/CXmlEdits.h"
-
-#include <QCoreApplication>
-#include <QHash>
+#include "normalize/CNormalizeRules.h"
 
 #include <algorithm>
 
@@ -55,26 +50,21 @@ void readOnlyFlags(const CDescription& description, CXmlEdits& edits)
     for (const CXmlElement& text : protectedTexts(description)) {
         if (!text.has(ATTR_READ_ONLY)) {
             const bool writable = text.is(TAG_PRODUCT_NAME) || text.is(TAG_INSTANCE_NAME);
-            edits.supply(text, ATTR_READ_ONLY, writable ? VALUE_FALSE : VALUE_TRUE, true);
+            edits.supply(text, ATTR_READ_ONLY, writable ? VALUE_FALSE : VALUE_TRUE);
         }
     }
 }
 
 void readOnlyWritings(const CDescription& description, CXmlEdits& edits)
 {
-    static const QHash<QString, QString> meanings = {
-        {QStringLiteral("1"), VALUE_TRUE},
-        {QStringLiteral("0"), VALUE_FALSE},
-        {VALUE_TRUE, VALUE_TRUE},
-        {VALUE_FALSE, VALUE_FALSE},
-    };
     for (const CXmlElement& text : protectedTexts(description)) {
         const QString flag = text.attribute(ATTR_READ_ONLY);
         if (flag.isNull() || CXmlValue::toBool(flag, VALUE_TRUE, VALUE_FALSE)) {
             continue;
         }
-        const QString meaning = meanings.value(flag.trimmed().toLower());
-        meaning.isEmpty() ? edits.leave(text, ATTR_READ_ONLY) : edits.rewrite(text, ATTR_READ_ONLY, meaning);
+        const std::optional<bool> meaning = flagOf(flag);
+        meaning ? edits.rewrite(text, ATTR_READ_ONLY, *meaning ? VALUE_TRUE : VALUE_FALSE)
+                : edits.leave(text, ATTR_READ_ONLY);
     }
 }
 
@@ -148,30 +138,25 @@ void complianceList(const CDescription& description, CXmlEdits& edits)
 }
 } // namespace
 
-const NormalizeRules& deviceRules()
+const NormalizeRules& CNormalizeRules::device()
 {
     static const NormalizeRules rules = {
-        {"identity-name",
-         QT_TRANSLATE_NOOP("mvxXddTools", "A DeviceIdentity lacks vendorName or productName: an empty one"),
-         QT_TRANSLATE_NOOP("mvxXddTools", "a required element that states nothing is empty"), false, identityNames},
-        {"read-only",
-         QT_TRANSLATE_NOOP(
-             "mvxXddTools",
+        {"identity-name", NOTE, QT_TR_NOOP("A DeviceIdentity lacks vendorName or productName: it gets an empty one"),
+         QT_TR_NOOP("a required element that states nothing is empty"), identityNames},
+        {"read-only", NOTE,
+         QT_TR_NOOP(
              "An element of an identity has no readOnly: false for productName and instanceName, true for all others"),
-         QT_TRANSLATE_NOOP("mvxXddTools", "the format's default where the attribute is absent"), false, readOnlyFlags},
-        {"read-only-writing", QT_TRANSLATE_NOOP("mvxXddTools", "readOnly is 1, 0 or has other capitals: true or false"),
-         QT_TRANSLATE_NOOP("mvxXddTools", "the format's writing of the same value"), false, readOnlyWritings},
-        {"device-function",
-         QT_TRANSLATE_NOOP(
-             "mvxXddTools",
-             "DeviceFunction, its capabilities, or the name, content or entry of its first characteristic is missing: "
-             "an empty one"),
-         QT_TRANSLATE_NOOP("mvxXddTools", "a device without stated function has an empty one"), false, deviceFunction},
-        {"compliance",
-         QT_TRANSLATE_NOOP(
-             "mvxXddTools",
-             "The capabilities have a standardComplianceList: a comment with its text, a blank inside of every \"--\""),
-         QT_TRANSLATE_NOOP("mvxXddTools", "the library refuses this list"), false, complianceList},
+         QT_TR_NOOP("the default of the format where the attribute is absent"), readOnlyFlags},
+        {"read-only-writing", NOTE, QT_TR_NOOP("readOnly is 1, 0 or has other capitals: true or false"),
+         QT_TR_NOOP("the format writes the same value in this way"), readOnlyWritings},
+        {"device-function", NOTE,
+         QT_TR_NOOP(
+             "DeviceFunction, its capabilities, or the name, content or entry of its first characteristic is missing: it gets an empty one"),
+         QT_TR_NOOP("a device that states no function has an empty one"), deviceFunction},
+        {"compliance", NOTE,
+         QT_TR_NOOP(
+             "The capabilities have a standardComplianceList: it becomes a comment, with a space inside every \"--\""),
+         QT_TR_NOOP("the library refuses this list"), complianceList},
     };
     return rules;
 }

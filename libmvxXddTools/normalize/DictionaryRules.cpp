@@ -1,14 +1,6 @@
-#include "CCanOpenNames.h"
 #include "CXmlValue.h"
 #include "NIso15745Tags.h"
-#include "canopen/CDescription.h"
-#include "canopen/CValue.h"
-#include "normalize/NormalizeRules.h"
-#include "text/CXmlEdits.h"
-
-#include <CCanOpenObject.h>
-
-#include <QCoreApplication>
+#include "normalize/CNormalizeRules.h"
 
 #include <climits>
 
@@ -16,32 +8,27 @@ using namespace NIso15745Tags;
 
 namespace
 {
-// The bases in which the format writes numbers. The library lets the prefix decide, which is base 0.
-constexpr int DECIMAL = 10;
-constexpr int HEXADECIMAL = 16;
-constexpr int BY_PREFIX = 0;
-
 void entryNames(const CDescription& description, CXmlEdits& edits)
 {
-    for (const SEntry& entry : description.entries()) {
+    for (const SEntry& entry : description.dictionary().entries()) {
         if (!entry.element.has(ATTR_NAME)) {
-            edits.supply(entry.element, ATTR_NAME, QString());
+            edits.supply(entry, {{ATTR_NAME, QString()}});
         }
     }
 }
 
-void number(const CXmlElement& element, QLatin1String attribute, int base, unsigned int highest, CXmlEdits& edits)
+void number(const SEdited& edited, QLatin1String attribute, int base, unsigned int highest, CXmlEdits& edits)
 {
-    const QString digits = element.attribute(attribute).trimmed();
+    const QString digits = edited.element.attribute(attribute).trimmed();
     if (digits.isEmpty() || hasHexadecimalPrefix(digits)) {
         return;
     }
     const auto meant = CXmlValue::toNumber(digits, base, highest);
     if (!meant) {
-        edits.leave(element, attribute);
+        edits.leave(edited, attribute);
     } else if (CXmlValue::toNumber(digits, BY_PREFIX, highest) != meant) {
         const bool isPlain = base == HEXADECIMAL && digits.at(0) != QLatin1Char('+');
-        edits.rewrite(element, attribute, isPlain ? HEXADECIMAL_PREFIX + digits : CCanOpenNames::subIndex(*meant));
+        edits.rewrite(edited, attribute, isPlain ? HEXADECIMAL_PREFIX + digits : hexadecimalText(*meant, 2));
     }
 }
 
@@ -52,92 +39,83 @@ void numbers(const CDescription& description, CXmlEdits& edits)
             number(list, count, DECIMAL, UINT_MAX, edits);
         }
     }
-    for (const SEntry& entry : description.entries()) {
-        number(entry.element, ATTR_DATA_TYPE, HEXADECIMAL, UCHAR_MAX, edits);
-        number(entry.element, ATTR_OBJECT_TYPE, DECIMAL, UCHAR_MAX, edits);
-        number(entry.element, ATTR_SUB_NUMBER, DECIMAL, UCHAR_MAX, edits);
+    for (const SEntry& entry : description.dictionary().entries()) {
+        number(entry, ATTR_DATA_TYPE, HEXADECIMAL, UCHAR_MAX, edits);
+        number(entry, ATTR_OBJECT_TYPE, DECIMAL, UCHAR_MAX, edits);
+        number(entry, ATTR_SUB_NUMBER, DECIMAL, UCHAR_MAX, edits);
     }
 }
 
-void writing(const CXmlElement& element, QLatin1String attribute, const QStringList& texts, CXmlEdits& edits)
+// A word that means what the format writes otherwise.
+void writing(const SEntry& entry, QLatin1String attribute, QLatin1String known, CXmlEdits& edits)
 {
-    const QString text = element.attribute(attribute);
-    if (text.isEmpty() || texts.contains(text)) {
+    const QString text = entry.element.attribute(attribute);
+    if (text.isEmpty() || text == known) {
         return;
     }
-    for (const QString& known : texts) {
-        if (known.compare(text.trimmed(), Qt::CaseInsensitive) == 0) {
-            edits.rewrite(element, attribute, known);
-            return;
-        }
-    }
-    edits.leave(element, attribute);
+    known.isEmpty() ? edits.leave(entry, attribute) : edits.rewrite(entry, attribute, known);
 }
 
 void writings(const CDescription& description, CXmlEdits& edits)
 {
-    const QStringList accessTypes = CCanOpenSubObject::mAccessTypeTexts.values();
-    const QStringList mappings = CCanOpenSubObject::mPdoMappingTexts.values();
-    for (const SEntry& entry : description.entries()) {
-        writing(entry.element, ATTR_ACCESS_TYPE, accessTypes, edits);
-        writing(entry.element, ATTR_PDO_MAPPING, mappings, edits);
+    for (const SEntry& entry : description.dictionary().entries()) {
+        writing(entry, ATTR_ACCESS_TYPE, accessText(accessOfEntry(entry.element.attribute(ATTR_ACCESS_TYPE))), edits);
+        writing(entry, ATTR_PDO_MAPPING, mappingText(entry.mapping), edits);
     }
 }
 
-// Supplies what an entry lacks from the parameter that it refers to; what it has is never changed.
+// The format and the library read the digits of the first eight types alike; from then on the library needs the prefix.
+QString dataTypeText(unsigned int dataType)
+{
+    const QString text = hexadecimalText(dataType, 4);
+    return dataType < 8 ? text.mid(HEXADECIMAL_PREFIX.size()) : text;
+}
+
+// Supplies what holds for an entry because its parameter states it; what the entry states is never changed.
 void parameters(const CDescription& description, CXmlEdits& edits)
 {
-    for (const SEntry& entry : description.entries()) {
-        const CParameter& parameter = entry.parameter;
-        if (parameter.isNull()) {
+    for (const SEntry& entry : description.dictionary().entries()) {
+        if (entry.parameter.isNull()) {
             if (!entry.element.attribute(ATTR_UNIQUE_ID_REF).isEmpty()) {
-                edits.leave(entry.element, ATTR_UNIQUE_ID_REF);
+                edits.leave(entry, ATTR_UNIQUE_ID_REF);
             }
             continue;
         }
         std::vector<CXmlEdits::Attribute> supplied;
-        const auto supply = [&](QLatin1String name, const QString& text) {
-            if (!text.isNull() && !entry.element.has(name)) {
+        const auto supply = [&](QLatin1String name, const auto& property, const QString& text) {
+            const bool isOfParameter = !property.source.isNull() && !(property.source == entry.element);
+            if (isOfParameter && !text.isNull()) {
                 supplied.emplace_back(name, text);
             }
         };
-        const auto stated = [](const QString& text) {
-            return text.isEmpty() ? QString() : text;
-        };
-        supply(ATTR_DATA_TYPE, stated(parameter.dataType(entry.element.attribute(ATTR_OBJECT_TYPE))));
-        supply(ATTR_LOW_LIMIT, parameter.lowLimit().attribute(ATTR_VALUE));
-        supply(ATTR_HIGH_LIMIT, parameter.highLimit().attribute(ATTR_VALUE));
-        supply(ATTR_ACCESS_TYPE, stated(parameter.accessType()));
-        supply(ATTR_DEFAULT_VALUE, parameter.defaultValue().attribute(ATTR_VALUE));
-        supply(ATTR_ACTUAL_VALUE, parameter.actualValue().attribute(ATTR_VALUE));
-        edits.supply(entry.element, supplied);
+        supply(ATTR_DATA_TYPE, entry.dataType, dataTypeText(entry.dataType.value));
+        supply(ATTR_LOW_LIMIT, entry.lowLimit, entry.lowLimit.text);
+        supply(ATTR_HIGH_LIMIT, entry.highLimit, entry.highLimit.text);
+        supply(ATTR_ACCESS_TYPE, entry.access, accessText(entry.access.value));
+        supply(ATTR_DEFAULT_VALUE, entry.defaultValue, entry.defaultValue.text);
+        supply(ATTR_ACTUAL_VALUE, entry.actualValue, entry.actualValue.text);
+        edits.supply(entry, supplied);
     }
 }
 } // namespace
 
-const NormalizeRules& dictionaryRules()
+const NormalizeRules& CNormalizeRules::dictionary()
 {
     static const NormalizeRules rules = {
-        {"entry-name", QT_TRANSLATE_NOOP("mvxXddTools", "An object or sub-object has no name: an empty one"),
-         QT_TRANSLATE_NOOP("mvxXddTools", "an entry without a name has an empty one"), false, entryNames},
-        {"number",
-         QT_TRANSLATE_NOOP(
-             "mvxXddTools", "dataType (hexadecimal in the format), objectType, subNumber or a count of objects "
-                            "(decimal) has no prefix "
-                            "and would be read as another number or not at all: the same number with \"0x\""),
-         QT_TRANSLATE_NOOP("mvxXddTools", "without \"0x\" the number would be read as another one or not at all"),
-         false, numbers},
-        {"writing",
-         QT_TRANSLATE_NOOP(
-             "mvxXddTools",
-             "accessType or PDOmapping differs from a text of the format in capitals or blanks: that text"),
-         QT_TRANSLATE_NOOP("mvxXddTools", "the format's writing of the same value"), true, writings},
-        {"parameter",
-         QT_TRANSLATE_NOOP(
-             "mvxXddTools", "An object or sub-object with uniqueIDRef lacks dataType, accessType, defaultValue, "
-                            "actualValue, lowLimit or "
-                            "highLimit: what its parameter states"),
-         QT_TRANSLATE_NOOP("mvxXddTools", "stated by the parameter that the entry refers to"), false, parameters},
+        {"entry-name", NOTE, QT_TR_NOOP("An object or sub-object has no name: it gets an empty one"),
+         QT_TR_NOOP("an entry without a name has an empty one"), entryNames},
+        {"number", NOTE,
+         QT_TR_NOOP(
+             "dataType (hexadecimal in the format), objectType, subNumber or a number of objects (decimal) has no prefix and would be read as another number or not at all: it gets \"0x\""),
+         QT_TR_NOOP("without \"0x\" the number would be read as another one or not at all"), numbers},
+        {"writing", WARNING,
+         QT_TR_NOOP(
+             "accessType or PDOmapping differs from a word of the format in capitals or spaces: it gets that word"),
+         QT_TR_NOOP("the format writes the same value in this way"), writings},
+        {"parameter", NOTE,
+         QT_TR_NOOP(
+             "An object or sub-object with uniqueIDRef lacks dataType, accessType, defaultValue, actualValue, lowLimit or highLimit: it gets what its parameter states"),
+         QT_TR_NOOP("stated by the parameter that the entry refers to"), parameters},
     };
     return rules;
 }

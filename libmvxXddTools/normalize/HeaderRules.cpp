@@ -1,14 +1,8 @@
 #include "CXmlValue.h"
 #include "NIso15745Tags.h"
-#include "canopen/CDescription.h"
-#include "normalize/NormalizeRules.h"
-#include "text/CXmlEdits.h"
+#include "normalize/CNormalizeRules.h"
 
 #include <CProfileHeader.h>
-
-#include <QCoreApplication>
-#include <QDate>
-#include <QRegularExpression>
 
 using namespace NIso15745Tags;
 
@@ -85,28 +79,6 @@ std::vector<CXmlElement> readBodies(const CDescription& description)
     return bodies;
 }
 
-// The date of a text in a common writing, in the form yyyy-MM-dd; nothing when it is none or ambiguous.
-QString isoDate(const QString& text)
-{
-    static const QRegularExpression form(
-        QStringLiteral("^\\s*(\\d{1,4})([-./])(\\d{1,2})\\2(\\d{1,4})(?:[T Z+-].*)?\\s*$"));
-    const QRegularExpressionMatch match = form.match(text);
-    const int first = match.captured(1).toInt();
-    const int second = match.captured(3).toInt();
-    const int third = match.captured(4).toInt();
-    QDate date;
-    if (match.capturedLength(1) == 4) {
-        date = QDate(first, second, third);
-    } else if (match.capturedLength(4) == 4) {
-        const QDate dayFirst(third, second, first);
-        const QDate monthFirst(third, first, second);
-        if (!dayFirst.isValid() || !monthFirst.isValid() || dayFirst == monthFirst) {
-            date = dayFirst.isValid() ? dayFirst : monthFirst;
-        }
-    }
-    return date.isValid() ? date.toString(Qt::ISODate) : QString();
-}
-
 void fileDates(const CDescription& description, CXmlEdits& edits)
 {
     for (const CXmlElement& body : readBodies(description)) {
@@ -115,12 +87,12 @@ void fileDates(const CDescription& description, CXmlEdits& edits)
             if (text.trimmed().isEmpty() || CXmlValue::toDate(text)) {
                 continue;
             }
-            const QString date = isoDate(text);
-            date.isEmpty() ? edits.leave(body, name) : edits.rewrite(body, name, date);
+            const std::optional<QDate> date = dateOf(text);
+            date ? edits.rewrite(body, name, date->toString(Qt::ISODate)) : edits.leave(body, name);
         }
         if (body.attribute(ATTR_FILE_CREATION_DATE).trimmed().isEmpty()) {
-            const QString modified = isoDate(body.attribute(ATTR_FILE_MODIFICATION_DATE));
-            edits.supply(body, ATTR_FILE_CREATION_DATE, modified.isEmpty() ? QStringLiteral("1970-01-01") : modified);
+            const QDate date = dateOf(body.attribute(ATTR_FILE_MODIFICATION_DATE)).value_or(QDate(1970, 1, 1));
+            edits.supply(body, {{ATTR_FILE_CREATION_DATE, date.toString(Qt::ISODate)}});
         }
     }
 }
@@ -130,34 +102,29 @@ void fileAttributes(const CDescription& description, CXmlEdits& edits)
     for (const CXmlElement& body : readBodies(description)) {
         for (const QLatin1String name : {ATTR_FILE_CREATOR, ATTR_FILE_NAME, ATTR_FILE_VERSION}) {
             if (!body.has(name)) {
-                edits.supply(body, name, QString());
+                edits.supply(body, {{name, QString()}});
             }
         }
     }
 }
 } // namespace
 
-const NormalizeRules& headerRules()
+const NormalizeRules& CNormalizeRules::header()
 {
     static const NormalizeRules rules = {
-        {"required",
-         QT_TRANSLATE_NOOP(
-             "mvxXddTools", "A profile header lacks a required element: an empty one; 1 for part and edition, CANopen "
-                            "for the technology"),
-         QT_TRANSLATE_NOOP("mvxXddTools", "a required element that states nothing is empty"), false, requiredItems},
-        {"class",
-         QT_TRANSLATE_NOOP("mvxXddTools", "Blanks or other capitals make ProfileClassID an unknown class: the class"),
-         QT_TRANSLATE_NOOP("mvxXddTools", "a profile of an unknown class would not be read"), true, profileClass},
-        {"file-date",
-         QT_TRANSLATE_NOOP(
-             "mvxXddTools", "A file date is written in another common form, or there is no creation date: yyyy-MM-dd; "
-                            "the modification "
-                            "date or 1970-01-01"),
-         QT_TRANSLATE_NOOP("mvxXddTools", "dates are written yyyy-MM-dd"), true, fileDates},
-        {"file-attribute",
-         QT_TRANSLATE_NOOP("mvxXddTools", "fileCreator, fileName or fileVersion is missing: an empty one"),
-         QT_TRANSLATE_NOOP("mvxXddTools", "a required file attribute that states nothing is empty"), false,
-         fileAttributes},
+        {"required", NOTE,
+         QT_TR_NOOP(
+             "A profile header lacks a required element: it gets an empty one, 1 for part and edition, and CANopen for the technology"),
+         QT_TR_NOOP("a required element that states nothing is empty"), requiredItems},
+        {"class", WARNING,
+         QT_TR_NOOP("Spaces or other capitals make ProfileClassID an unknown class: it gets that class"),
+         QT_TR_NOOP("a profile of an unknown class would not be read"), profileClass},
+        {"file-date", WARNING,
+         QT_TR_NOOP(
+             "A file date is written in another common form, or there is no creation date: yyyy-MM-dd; the modification date or 1970-01-01"),
+         QT_TR_NOOP("dates are written yyyy-MM-dd"), fileDates},
+        {"file-attribute", NOTE, QT_TR_NOOP("fileCreator, fileName or fileVersion is missing: it gets an empty one"),
+         QT_TR_NOOP("a required file attribute that states nothing is empty"), fileAttributes},
     };
     return rules;
 }

@@ -63,13 +63,3 @@ bool CEncodedText::decode(const QByteArray& bytes, QString& errorText)
     }
     return true;
 }
-
-QByteArray CEncodedText::encode(const QString& text) const
-{
-    return mByteOrderMark + encoded(text, mEncoding);
-}
-
-const QString& CEncodedText::text() const
-{
-    return mText;
-}

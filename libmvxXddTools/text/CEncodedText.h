@@ -1,6 +1,8 @@
 #ifndef MVXXDDTOOLS_CENCODEDTEXT_H
 #define MVXXDDTOOLS_CENCODEDTEXT_H
 
+#include "text/Encodings.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -16,10 +18,10 @@ public:
     bool decode(const QByteArray& bytes, QString& errorText);
 
     /** The bytes of a text in the encoding of the file, byte order mark included. */
-    QByteArray encode(const QString& text) const;
+    QByteArray encode(const QString& text) const { return mByteOrderMark + encoded(text, mEncoding); }
 
     /** The decoded characters without the byte order mark. */
-    const QString& text() const;
+    const QString& text() const { return mText; }
 
 private:
     QByteArray mEncoding;

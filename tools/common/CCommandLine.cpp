@@ -8,6 +8,27 @@
 
 #include <csignal>
 
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace
+{
+const QString HELP = QStringLiteral("help");
+const QString VERSION = QStringLiteral("version");
+
+// What Qt says in this class, so that the catalogue of the tools has it: Qt's own may not be installed.
+[[maybe_unused]] constexpr const char* OF_QT[] = {
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Usage: %1"),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "[options]"),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Options:"),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Arguments:"),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unknown option '%1'."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unknown options: %1."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Missing value after '%1'."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unexpected value after '%1'."),
+};
+} // namespace
+
 const QString& standardStream()
 {
     static const QString name = QStringLiteral("-");
@@ -15,20 +36,17 @@ const QString& standardStream()
 }
 
 CCommandLine::CCommandLine(const QString& description, const QString& files, const QString& filesSyntax)
-    : mHelp({QStringLiteral("h"), QStringLiteral("help")}, QCoreApplication::translate("tools", "Print this help."))
-    , mVersion(
-          {QStringLiteral("v"), QStringLiteral("version")}, QCoreApplication::translate("tools", "Print the version."))
 {
     mParser.setApplicationDescription(description);
-    mParser.addOptions({mHelp, mVersion});
+    add({QStringLiteral("h"), HELP}, QCoreApplication::translate("tools", "Print this help."));
+    add({QStringLiteral("v"), VERSION}, QCoreApplication::translate("tools", "Print the version."));
     mParser.addPositionalArgument(QStringLiteral("FILE"), files, filesSyntax);
 }
 
-QCommandLineOption CCommandLine::add(const QStringList& names, const QString& description, const QString& valueName)
+void CCommandLine::add(const QStringList& names, const QString& description, const QString& valueName)
 {
-    QCommandLineOption option(names, description, valueName);
-    mParser.addOption(option);
-    return option;
+    mParser.addOption({names, description, valueName});
+    mOptions << names;
 }
 
 std::optional<int> CCommandLine::parse(const QStringList& arguments)
@@ -36,10 +54,10 @@ std::optional<int> CCommandLine::parse(const QStringList& arguments)
     if (!mParser.parse(arguments)) {
         return refuse(mParser.errorText());
     }
-    if (mParser.isSet(mHelp)) {
+    if (isSet(HELP)) {
         return print(mParser.helpText().trimmed());
     }
-    if (mParser.isSet(mVersion)) {
+    if (isSet(VERSION)) {
         return print(QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion());
     }
     if (files().contains(QString())) {
@@ -48,24 +66,15 @@ std::optional<int> CCommandLine::parse(const QStringList& arguments)
     return std::nullopt;
 }
 
-bool CCommandLine::isSet(const QCommandLineOption& option) const
+QStringList CCommandLine::values(const QString& option) const
 {
-    return mParser.isSet(option);
-}
-
-QString CCommandLine::value(const QCommandLineOption& option) const
-{
-    return mParser.value(option);
-}
-
-QStringList CCommandLine::values(const QCommandLineOption& option) const
-{
-    return mParser.values(option);
-}
-
-QStringList CCommandLine::files() const
-{
-    return mParser.positionalArguments();
+    QStringList values;
+    for (const QString& text : isSet(option) ? mParser.values(option) : QStringList()) {
+        for (const QString& value : text.split(QLatin1Char(','))) {
+            values << value.trimmed();
+        }
+    }
+    return values;
 }
 
 int CCommandLine::refuse(const QString& reason)
@@ -82,10 +91,25 @@ int print(const QString& text)
     return output.finish() ? EXIT_ALL_DONE : EXIT_NOT_ALL_DONE;
 }
 
+namespace
+{
+// Takes the places of standard streams that the caller has closed, so that no file that is opened gets their numbers.
+// They fail when they are used.
+void keepStandardStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(stream, F_GETFD) == -1) {
+            open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+        }
+    }
+}
+} // namespace
+
 int runTool(int argc, char* argv[], const QString& name, int (*run)(const QStringList& arguments))
 {
     // A reader that closes the pipe early ends the output with an error, not the program with a signal.
     std::signal(SIGPIPE, SIG_IGN);
+    keepStandardStreams();
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(name);
     QCoreApplication::setApplicationVersion(QStringLiteral(TOOL_VERSION));

@@ -18,7 +18,7 @@ enum EExitStatus : int
 /** The name under which a file stands for standard input and output. */
 const QString& standardStream();
 
-/** The command line of a tool: what it takes, and what all tools do with it. */
+/** The command line of a tool: what it takes, and what all tools do with it. Options are asked for by their names. */
 class CCommandLine
 {
 public:
@@ -26,24 +26,24 @@ public:
     CCommandLine(const QString& description, const QString& files, const QString& filesSyntax);
 
     /** Adds an option; one with @p valueName takes a value. */
-    QCommandLineOption add(const QStringList& names, const QString& description, const QString& valueName = QString());
+    void add(const QStringList& names, const QString& description, const QString& valueName = QString());
 
     /** Understands the arguments of the program. Returns the status to end with when there is nothing more to do: help
      * or the version were asked for, or the line was refused. */
     std::optional<int> parse(const QStringList& arguments);
 
-    bool isSet(const QCommandLineOption& option) const;
-    QString value(const QCommandLineOption& option) const;
-    QStringList values(const QCommandLineOption& option) const;
-    QStringList files() const;
+    bool isSet(const QString& option) const { return mOptions.contains(option) && mParser.isSet(option); }
+    QString value(const QString& option) const { return isSet(option) ? mParser.value(option) : QString(); }
+    /** The values of all occurrences of an option, taken apart at commas. */
+    QStringList values(const QString& option) const;
+    QStringList files() const { return mParser.positionalArguments(); }
 
     /** Says why the command line is refused, and returns the status for that. */
     static int refuse(const QString& reason);
 
 private:
     QCommandLineParser mParser;
-    QCommandLineOption mHelp;
-    QCommandLineOption mVersion;
+    QStringList mOptions; // The names of all options
 };
 
 /** Writes the only result of a tool, followed by a line end, to standard output. Returns the status to end with. */

@@ -39,11 +39,6 @@ bool COutput::finish()
     return false;
 }
 
-bool COutput::failed() const
-{
-    return mError != 0;
-}
-
 void COutput::check(bool ok)
 {
     if (!ok) {

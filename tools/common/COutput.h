@@ -22,7 +22,7 @@ public:
     bool finish();
 
     /** True when there is no point in writing more. */
-    bool failed() const;
+    bool failed() const { return mError != 0; }
 
 private:
     void check(bool ok);

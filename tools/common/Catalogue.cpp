@@ -11,25 +11,28 @@
 
 namespace
 {
-// Installs the first catalogue of that name; the application ends it.
-void install(const QString& name, const QStringList& folders)
+// Installs the first catalogue of that name for a language; the application ends it.
+bool install(const QString& name, const QLocale& language, const QStringList& folders)
 {
     auto translator = std::make_unique<QTranslator>();
     for (const QString& folder : folders) {
-        if (translator->load(QLocale(), name, QStringLiteral("_"), folder)) {
+        if (translator->load(language, name, QStringLiteral("_"), folder)) {
             translator->setParent(QCoreApplication::instance());
-            QCoreApplication::installTranslator(translator.release());
-            return;
+            return QCoreApplication::installTranslator(translator.release());
         }
     }
+    return false;
 }
 } // namespace
 
 void installCatalogue()
 {
     const QString qtFolder = translationsFolder();
-    install(QStringLiteral("qtbase"), {qtFolder});
-    install(
-        QStringLiteral("mvxIso15745Xml"),
-        {QCoreApplication::applicationDirPath() + QLatin1String("/" CATALOGUE_FOLDER), qtFolder});
+    const QString name = QStringLiteral("mvxIso15745Xml");
+    const QStringList folders = {QCoreApplication::applicationDirPath() + QLatin1String("/" CATALOGUE_FOLDER), qtFolder};
+    install(QStringLiteral("qtbase"), QLocale(), {qtFolder});
+    // English has a catalogue for the plural forms of numbers.
+    if (!install(name, QLocale(), folders)) {
+        install(name, QLocale(QLocale::English), folders);
+    }
 }

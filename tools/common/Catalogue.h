@@ -3,8 +3,8 @@
 
 /**
  * Installs the catalogues of the user's language: Qt's own, and that of the library and the tools, which is looked for
- * beside the program, as it is installed, and then where Qt keeps the catalogues of libraries. Without one everything
- * stays English.
+ * beside the program, as it is installed, and then where Qt keeps the catalogues of libraries. Where there is none for
+ * that language it is the English one.
  */
 void installCatalogue();
 

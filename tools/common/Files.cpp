@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 
 #include <sys/stat.h>
@@ -74,18 +73,6 @@ bool replaceFile(const QString& fileName, const QByteArray& bytes, QString& erro
     return false;
 }
 } // namespace
-
-bool readFile(const QString& fileName, QByteArray& bytes, QString& errorText)
-{
-    QFile file(fileName);
-    const bool open =
-        fileName == standardStream() ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    if (open) {
-        bytes = file.readAll();
-    }
-    errorText = file.errorString();
-    return open && file.error() == QFileDevice::NoError;
-}
 
 bool writeFile(const QString& fileName, const QByteArray& bytes)
 {

@@ -4,15 +4,8 @@
 #include <QByteArray>
 #include <QString>
 
-/** @file
- * Reading and writing whole files; "-" is standard input and output.
- */
-
-/** Reads a whole file. Returns false, with a message. */
-bool readFile(const QString& fileName, QByteArray& bytes, QString& errorText);
-
-/** Writes a file whole or not at all. A file that is there keeps its mode and, where that is allowed, its owner; a
- * device or a pipe is written to. Complains and returns false when that fails. */
+/** Writes a file whole or not at all; "-" is standard output. A file that is there keeps its mode and, where that is
+ * allowed, its owner; a device or a pipe is written to. Complains and returns false when that fails. */
 bool writeFile(const QString& fileName, const QByteArray& bytes);
 
 #endif

@@ -1,9 +1,7 @@
 #include "Messages.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QHash>
-#include <QRegularExpression>
 
 #include <cstdio>
 
@@ -20,16 +18,6 @@ bool drivesTerminal(QChar character)
     default:
         return false;
     }
-}
-
-// The line that a message of the library or of the text side names, in the language of the user; 0 for none.
-int lineIn(const QString& message)
-{
-    const QString form = QCoreApplication::translate("tools", "line %1", "as in the library's messages");
-    const QRegularExpression named(
-        QLatin1String("\\b")
-        + QRegularExpression::escape(form).replace(QLatin1String("\\%1"), QLatin1String("(\\d+)")));
-    return named.match(message).captured(1).toInt();
 }
 } // namespace
 
@@ -52,28 +40,16 @@ void complain(const QString& text)
     reportLine(QCoreApplication::applicationName() + QLatin1String(": ") + text);
 }
 
-void complainAbout(const QString& fileName, const QString& message)
+void complainAbout(const QString& fileName, const CXddRemark& failure)
 {
-    // The message about a file that does not parse begins with its name, which stands in front of it anyway.
-    const QString native = QDir::toNativeSeparators(fileName);
-    const QString readFile =
-        QCoreApplication::translate("CIso15745Impl", "Read file \"%1\": Parse error at line %2, column %3: %4");
-    const QString beginning = readFile.left(readFile.indexOf(QLatin1String("%2"))).replace(QLatin1String("%1"), native);
-    const QString rest = readFile.mid(readFile.indexOf(QLatin1String("%1")) + 2);
-    const QString parseError = rest.mid(2, rest.indexOf(QLatin1String("%2")) - 2).trimmed();
-    QString text = message;
-    if (text.startsWith(beginning)) {
-        text = parseError + QLatin1Char(' ') + text.mid(beginning.size());
-    }
-    const int line = lineIn(text);
-    if (line > 0) {
-        reportLine(place(fileName, line) + text);
-    } else if (
-        text.contains(QLatin1Char('"') + native + QLatin1Char('"'))
-        || text.contains(QLatin1Char(' ') + native + QLatin1String(": "))) {
-        complain(text);
+    if (failure.mLine == 0) {
+        complain(fileName + QLatin1String(": ") + failure.mText);
+    } else if (failure.mColumn == 0) {
+        reportLine(place(fileName, failure.mLine) + failure.mText);
     } else {
-        complain(fileName + QLatin1String(": ") + text);
+        reportLine(
+            QStringLiteral("%1:%2:%3: ").arg(fileName, QString::number(failure.mLine), QString::number(failure.mColumn))
+            + failure.mText);
     }
 }
 
@@ -82,25 +58,41 @@ void reportLine(const QString& text)
     std::fprintf(stderr, "%s\n", qUtf8Printable(printable(text)));
 }
 
-QVector<SReportLine> summedUp(const QVector<SReportLine>& lines, int most)
+void reportRemarks(const QString& fileName, const QList<CXddRemark>& remarks)
 {
-    QHash<QString, QVector<int>> linesOf;
-    for (const SReportLine& line : lines) {
-        linesOf[line.group] << line.line;
+    for (const CXddRemark& remark : remarks) {
+        const QString reason = remark.mReason.isEmpty() ? QString() : QLatin1String(", ") + remark.mReason;
+        reportLine(place(fileName, remark.mLine) + remark.mText + reason);
     }
-    QHash<QString, bool> isSummedUp;
-    QVector<SReportLine> summary;
-    for (SReportLine line : lines) {
-        const QVector<int>& alike = linesOf[line.group];
-        if (alike.size() > most) {
-            if (isSummedUp.value(line.group)) {
-                continue;
-            }
-            isSummedUp[line.group] = true;
-            line.text = QCoreApplication::translate("tools", "%1, and %2 more like this up to line %3")
-                            .arg(line.text, QString::number(alike.size() - 1), QString::number(alike.last()));
+}
+
+QList<CXddRemark> summedUp(const QList<CXddRemark>& remarks, int most)
+{
+    struct SGroup
+    {
+        int count = 0;
+        int lastLine = 0;
+        bool isSummedUp = false;
+    };
+    QHash<QString, SGroup> groups;
+    for (const CXddRemark& remark : remarks) {
+        SGroup& group = groups[remark.mGroup];
+        ++group.count;
+        group.lastLine = remark.mLine;
+    }
+    QList<CXddRemark> summary;
+    for (CXddRemark remark : remarks) {
+        SGroup& group = groups[remark.mGroup];
+        if (group.isSummedUp) {
+            continue;
         }
-        summary << line;
+        if (group.count > most) {
+            group.isSummedUp = true;
+            remark.mText = QCoreApplication::translate(
+                               "tools", "%1, and %n more like this up to line %2", nullptr, group.count - 1)
+                               .arg(remark.mText, QString::number(group.lastLine));
+        }
+        summary << remark;
     }
     return summary;
 }

@@ -1,5 +1,6 @@
 #include "CSarifReport.h"
 
+#include "CCommandLine.h"
 #include "Messages.h"
 
 #include <CXddChecker.h>
@@ -22,43 +23,73 @@ QJsonObject message(const QString& text)
     return {{key("text"), printable(text)}};
 }
 
-// The name of a file below the working directory, relative to it, as a reference of a URI.
-QString uriOf(const QString& fileName)
+// A file below the working directory, relative to it, as a reference of a URI; standard input has none.
+QJsonObject artifact(const QString& fileName)
 {
+    if (fileName == standardStream()) {
+        return {{key("description"), message(key("standard input"))}};
+    }
     const QString relative = QDir::current().relativeFilePath(fileName);
-    return QString::fromLatin1(QUrl::toPercentEncoding(relative, QByteArrayLiteral("/")));
+    return {{key("uri"), QString::fromLatin1(QUrl::toPercentEncoding(relative, QByteArrayLiteral("/")))}};
 }
 
-QJsonArray rules()
+QJsonArray shownRules(const QList<CXddRule>& rules)
 {
-    QJsonArray rules;
-    for (const CXddCheckRule& rule : CXddChecker::rules()) {
-        rules.append(QJsonObject{
+    QJsonArray shown;
+    for (const CXddRule& rule : rules) {
+        shown.append(QJsonObject{
             {key("id"), rule.mId},
             {key("shortDescription"), message(rule.mSummary)},
             {key("fullDescription"), message(rule.mSummary + QLatin1String(". ") + rule.mReason)},
             {key("help"), message(rule.mReason)},
-            {key("defaultConfiguration"), QJsonObject{{key("level"), CXddFinding::severityAsStr(rule.mSeverity)}}},
+            {key("defaultConfiguration"), QJsonObject{{key("level"), CXddRemark::severityAsStr(rule.mSeverity)}}},
         });
     }
-    return rules;
+    return shown;
+}
+
+QJsonObject location(const QString& fileName, const CXddRemark& finding)
+{
+    const QJsonObject place = {
+        {key("artifactLocation"), artifact(fileName)},
+        {key("region"), QJsonObject{{key("startLine"), finding.mLine}}},
+    };
+    QJsonObject location = {{key("physicalLocation"), place}};
+    if (!finding.entry().isEmpty()) {
+        location[key("logicalLocations")] =
+            QJsonArray{QJsonObject{{key("fullyQualifiedName"), finding.entry()}, {key("kind"), key("object")}}};
+    }
+    return location;
 }
 } // namespace
 
-void CSarifReport::add(const QString& fileName, const QList<CXddFinding>& findings)
+CSarifReport::CSarifReport()
+    : mRules(CXddChecker::rules())
 {
-    for (const CXddFinding& finding : findings) {
-        const QJsonObject place = {
-            {key("artifactLocation"), QJsonObject{{key("uri"), uriOf(fileName)}}},
-            {key("region"), QJsonObject{{key("startLine"), finding.mLine}}},
-        };
+    for (int number = 0; number < mRules.size(); ++number) {
+        mRuleIndex[mRules.at(number).mId] = number;
+    }
+}
+
+void CSarifReport::add(const QString& fileName, const QList<CXddRemark>& findings)
+{
+    for (const CXddRemark& finding : findings) {
         mResults.append(QJsonObject{
             {key("ruleId"), finding.mRule},
-            {key("level"), CXddFinding::severityAsStr(finding.mSeverity)},
+            {key("ruleIndex"), mRuleIndex.value(finding.mRule)},
+            {key("level"), CXddRemark::severityAsStr(finding.mSeverity)},
             {key("message"), message(finding.mText)},
-            {key("locations"), QJsonArray{QJsonObject{{key("physicalLocation"), place}}}},
+            {key("locations"), QJsonArray{location(fileName, finding)}},
         });
     }
+}
+
+void CSarifReport::addFailure(const QString& fileName, const QString& text)
+{
+    mFailures.append(QJsonObject{
+        {key("level"), key("error")},
+        {key("message"), message(fileName + QLatin1String(": ") + text)},
+    });
 }
 
 QByteArray CSarifReport::document() const
@@ -66,11 +97,16 @@ QByteArray CSarifReport::document() const
     const QJsonObject driver = {
         {key("name"), QCoreApplication::applicationName()},
         {key("version"), QCoreApplication::applicationVersion()},
-        {key("rules"), rules()},
+        {key("rules"), shownRules(mRules)},
+    };
+    const QJsonObject invocation = {
+        {key("executionSuccessful"), mFailures.isEmpty()},
+        {key("toolExecutionNotifications"), mFailures},
     };
     const QJsonObject run = {
         {key("tool"), QJsonObject{{key("driver"), driver}}},
-        {key("columnKind"), key("unicodeCodePoints")},
+        {key("columnKind"), key("utf16CodeUnits")},
+        {key("invocations"), QJsonArray{invocation}},
         {key("results"), mResults},
     };
     return QJsonDocument(QJsonObject{

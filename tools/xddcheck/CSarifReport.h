@@ -1,8 +1,9 @@
 #ifndef XDDCHECK_CSARIFREPORT_H
 #define XDDCHECK_CSARIFREPORT_H
 
-#include <CXddFinding.h>
+#include <CXddRule.h>
 
+#include <QHash>
 #include <QJsonArray>
 #include <QList>
 #include <QString>
@@ -11,14 +12,21 @@
 class CSarifReport
 {
 public:
+    CSarifReport();
+
     /** Adds what was found in a file. */
-    void add(const QString& fileName, const QList<CXddFinding>& findings);
+    void add(const QString& fileName, const QList<CXddRemark>& findings);
+    /** Adds that a file could not be read. */
+    void addFailure(const QString& fileName, const QString& text);
 
     /** The whole document, indented. */
     QByteArray document() const;
 
 private:
+    QList<CXddRule> mRules;
+    QHash<QString, int> mRuleIndex;
     QJsonArray mResults;
+    QJsonArray mFailures;
 };
 
 #endif

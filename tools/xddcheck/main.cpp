@@ -1,7 +1,7 @@
 #include "CCommandLine.h"
 #include "COutput.h"
 #include "CSarifReport.h"
-#include "Files.h"
+#include "Descriptions.h"
 #include "Messages.h"
 
 #include <CXddChecker.h>
@@ -9,53 +9,57 @@
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSet>
 
 #include <algorithm>
 
 namespace
 {
+const QString FORMAT = QStringLiteral("format");
+const QString DISABLE = QStringLiteral("disable");
+const QString WARNINGS_AS_ERRORS = QStringLiteral("warnings-as-errors");
+const QString VERBOSE = QStringLiteral("verbose");
+const QString QUIET = QStringLiteral("quiet");
+const QString LIST_RULES = QStringLiteral("list-rules");
+
+// The forms of output, by their names on the command line.
 enum class EFormat
 {
     Text,
     Json,
     Sarif
 };
+const QStringList FORMATS = {QStringLiteral("text"), QStringLiteral("json"), QStringLiteral("sarif")};
 
 // What the command line asks for.
 struct SRequest
 {
     EFormat format = EFormat::Text;
-    QSet<QString> disabled;
+    QStringList disabled;
     bool warningsAsErrors = false;
     bool verbose = false;
     bool quiet = false;
 };
 
-void showText(const SRequest& request, const QString& fileName, const QList<CXddFinding>& findings, COutput& output)
+void showText(const SRequest& request, const QString& fileName, const QList<CXddRemark>& findings, COutput& output)
 {
-    QVector<SReportLine> report;
-    for (const CXddFinding& finding : findings) {
-        report << SReportLine{
-            finding.mLine, finding.mRule,
-            QStringLiteral("%1: %2").arg(CXddFinding::severityAsStr(finding.mSeverity), finding.mText),
-            QStringLiteral(" [%1]").arg(finding.mRule)};
-    }
-    for (const SReportLine& line : request.verbose ? report : summedUp(report)) {
-        output.writeLine(printable(place(fileName, line.line) + line.text + line.ending));
+    for (const CXddRemark& finding : request.verbose ? findings : summedUp(findings)) {
+        output.writeLine(
+            printable(place(fileName, finding.mLine))
+            + QStringLiteral("%1: %2 [%3]")
+                  .arg(CXddRemark::severityAsStr(finding.mSeverity), printable(finding.mText), finding.mRule));
     }
 }
 
-void showJson(const QString& fileName, const QList<CXddFinding>& findings, COutput& output)
+void showJson(const QString& fileName, const QList<CXddRemark>& findings, COutput& output)
 {
     const auto number = [](const std::optional<unsigned int>& value) {
         return value ? QJsonValue(qint64(*value)) : QJsonValue();
     };
-    for (const CXddFinding& finding : findings) {
+    for (const CXddRemark& finding : findings) {
         const QJsonObject json = {
             {QStringLiteral("file"), fileName},
             {QStringLiteral("line"), finding.mLine},
-            {QStringLiteral("severity"), CXddFinding::severityAsStr(finding.mSeverity)},
+            {QStringLiteral("severity"), CXddRemark::severityAsStr(finding.mSeverity)},
             {QStringLiteral("rule"), finding.mRule},
             {QStringLiteral("index"), number(finding.mIndex)},
             {QStringLiteral("subIndex"), number(finding.mSubIndex)},
@@ -65,51 +69,53 @@ void showJson(const QString& fileName, const QList<CXddFinding>& findings, COutp
     }
 }
 
-int countOf(const QList<CXddFinding>& findings, CXddFinding::ESeverity severity)
+int countOf(const QList<CXddRemark>& findings, CXddRemark::ESeverity severity)
 {
-    return int(std::count_if(findings.begin(), findings.end(), [severity](const CXddFinding& finding) {
+    return int(std::count_if(findings.begin(), findings.end(), [severity](const CXddRemark& finding) {
         return finding.mSeverity == severity;
     }));
 }
 
 // "drive.xdd: 2 errors, 5 warnings"
-QString sums(const QString& fileName, const QList<CXddFinding>& findings)
+QString totals(const QString& fileName, const QList<CXddRemark>& findings)
 {
-    const int errors = countOf(findings, CXddFinding::SEVERITY_ERROR);
-    const int warnings = countOf(findings, CXddFinding::SEVERITY_WARNING);
-    const int notes = countOf(findings, CXddFinding::SEVERITY_NOTE);
+    const int errors = countOf(findings, CXddRemark::SEVERITY_ERROR);
+    const int warnings = countOf(findings, CXddRemark::SEVERITY_WARNING);
+    const int notes = countOf(findings, CXddRemark::SEVERITY_NOTE);
     QStringList parts = {
-        errors == 1 ? QCoreApplication::translate("xddcheck", "1 error")
-                    : QCoreApplication::translate("xddcheck", "%1 errors").arg(errors),
-        warnings == 1 ? QCoreApplication::translate("xddcheck", "1 warning")
-                      : QCoreApplication::translate("xddcheck", "%1 warnings").arg(warnings)};
+        QCoreApplication::translate("xddcheck", "%n error(s)", nullptr, errors),
+        QCoreApplication::translate("xddcheck", "%n warning(s)", nullptr, warnings)};
     if (notes > 0) {
-        parts
-            << (notes == 1 ? QCoreApplication::translate("xddcheck", "1 note")
-                           : QCoreApplication::translate("xddcheck", "%1 notes").arg(notes));
+        parts << QCoreApplication::translate("xddcheck", "%n note(s)", nullptr, notes);
     }
     return fileName + QLatin1String(": ") + parts.join(QLatin1String(", "));
+}
+
+QList<CXddRemark> findingsOf(const SRequest& request, const CXddDocument& document)
+{
+    QList<CXddRemark> findings;
+    for (CXddRemark finding : CXddChecker::check(document)) {
+        if (request.disabled.contains(finding.mRule)) {
+            continue;
+        }
+        if (request.warningsAsErrors && finding.mSeverity == CXddRemark::SEVERITY_WARNING) {
+            finding.mSeverity = CXddRemark::SEVERITY_ERROR;
+        }
+        findings << finding;
+    }
+    return findings;
 }
 
 // Checks a file. Returns false when it has errors or cannot be read.
 bool checkFile(const SRequest& request, const QString& fileName, CSarifReport& sarif, COutput& output)
 {
-    QByteArray bytes;
-    QString errorText;
-    if (!readFile(fileName, bytes, errorText)) {
-        complainAbout(fileName, errorText);
+    const CXddDocument document = readDescription(fileName);
+    if (!document.isOpen() && document.failure().mRule.isEmpty()) {
+        complainAbout(fileName, document.failure());
+        sarif.addFailure(fileName, document.failure().mText);
         return false;
     }
-    QList<CXddFinding> findings;
-    for (CXddFinding finding : CXddChecker::check(bytes)) {
-        if (request.disabled.contains(finding.mRule)) {
-            continue;
-        }
-        if (request.warningsAsErrors && finding.mSeverity == CXddFinding::SEVERITY_WARNING) {
-            finding.mSeverity = CXddFinding::SEVERITY_ERROR;
-        }
-        findings << finding;
-    }
+    const QList<CXddRemark> findings = findingsOf(request, document);
     switch (request.format) {
     case EFormat::Text:
         showText(request, fileName, findings, output);
@@ -123,9 +129,9 @@ bool checkFile(const SRequest& request, const QString& fileName, CSarifReport& s
     }
     output.flush();
     if (!request.quiet) {
-        reportLine(sums(fileName, findings));
+        reportLine(totals(fileName, findings));
     }
-    return countOf(findings, CXddFinding::SEVERITY_ERROR) == 0;
+    return countOf(findings, CXddRemark::SEVERITY_ERROR) == 0;
 }
 
 int checkAll(const SRequest& request, const QStringList& fileNames)
@@ -145,29 +151,48 @@ int checkAll(const SRequest& request, const QStringList& fileNames)
 int listRules()
 {
     QStringList lines;
-    for (const CXddCheckRule& rule : CXddChecker::rules()) {
+    for (const CXddRule& rule : CXddChecker::rules()) {
         lines << QStringLiteral("%1 (%2)\n    %3.\n    %4")
-                     .arg(rule.mId, CXddFinding::severityAsStr(rule.mSeverity), rule.mSummary, rule.mReason);
+                     .arg(rule.mId, CXddRemark::severityAsStr(rule.mSeverity), rule.mSummary, rule.mReason);
     }
     return print(lines.join(QLatin1Char('\n')));
 }
 
-// The rules that are to be left out; a name that is none of them is returned instead.
-QString disabledRules(const QStringList& values, QSet<QString>& disabled)
+void addOptions(CCommandLine& line)
 {
-    QSet<QString> known;
-    for (const CXddCheckRule& rule : CXddChecker::rules()) {
-        known << rule.mId;
+    line.add(
+        {FORMAT},
+        QCoreApplication::translate(
+            "xddcheck", "Print the findings as text, as json (one object per line) or as sarif (2.1.0)."),
+        FORMATS.join(QLatin1Char('|')));
+    line.add({DISABLE}, QCoreApplication::translate("xddcheck", "Do not apply rules."), QStringLiteral("RULE,..."));
+    line.add({WARNINGS_AS_ERRORS}, QCoreApplication::translate("xddcheck", "Treat every warning as an error."));
+    line.add({VERBOSE}, QCoreApplication::translate("xddcheck", "Print every finding separately."));
+    line.add({QStringLiteral("q"), QUIET}, QCoreApplication::translate("xddcheck", "Do not print totals."));
+    line.add({LIST_RULES}, QCoreApplication::translate("xddcheck", "Print the rules, why they matter and what to do."));
+}
+
+// What the command line asks for; else the reason why it is refused.
+QString readRequest(const CCommandLine& line, SRequest& request)
+{
+    request.warningsAsErrors = line.isSet(WARNINGS_AS_ERRORS);
+    request.verbose = line.isSet(VERBOSE);
+    request.quiet = line.isSet(QUIET);
+    request.disabled = line.values(DISABLE);
+    const QString format = line.isSet(FORMAT) ? line.value(FORMAT) : FORMATS.first();
+    request.format = static_cast<EFormat>(FORMATS.indexOf(format));
+    if (!FORMATS.contains(format)) {
+        return QCoreApplication::translate("xddcheck", "'%1' is not a format.").arg(format);
     }
-    for (const QString& value : values) {
-        for (const QString& name : value.split(QLatin1Char(','))) {
-            if (!known.contains(name)) {
-                return name;
-            }
-            disabled << name;
+    const QList<CXddRule> rules = CXddChecker::rules();
+    for (const QString& disabled : qAsConst(request.disabled)) {
+        const bool isKnown =
+            std::any_of(rules.begin(), rules.end(), [&disabled](const CXddRule& rule) { return rule.mId == disabled; });
+        if (!isKnown) {
+            return QCoreApplication::translate("xddcheck", "'%1' is not a rule.").arg(disabled);
         }
     }
-    return QString();
+    return line.files().isEmpty() ? QCoreApplication::translate("tools", "No file is named.") : QString();
 }
 
 int run(const QStringList& arguments)
@@ -175,52 +200,16 @@ int run(const QStringList& arguments)
     CCommandLine line(
         QCoreApplication::translate("xddcheck", "Says what is wrong with CANopen device descriptions."),
         QCoreApplication::translate("xddcheck", "A description; - is standard input."), QStringLiteral("FILE..."));
-    const auto format = line.add(
-        {QStringLiteral("format")},
-        QCoreApplication::translate(
-            "xddcheck", "Print the findings as text, as json (one object on each line) or as sarif (2.1.0)."),
-        QStringLiteral("text|json|sarif"));
-    const auto disable = line.add(
-        {QStringLiteral("disable")}, QCoreApplication::translate("xddcheck", "Leave rules out."),
-        QStringLiteral("RULE,..."));
-    const auto warnings = line.add(
-        {QStringLiteral("warnings-as-errors")},
-        QCoreApplication::translate("xddcheck", "Take every warning for an error."));
-    const auto verbose = line.add(
-        {QStringLiteral("verbose")}, QCoreApplication::translate("xddcheck", "Print every finding by itself."));
-    const auto quiet = line.add(
-        {QStringLiteral("q"), QStringLiteral("quiet")},
-        QCoreApplication::translate("xddcheck", "Print no sums on standard error."));
-    const auto rules = line.add(
-        {QStringLiteral("list-rules")},
-        QCoreApplication::translate("xddcheck", "Print the rules, why they matter and what to do."));
+    addOptions(line);
     if (const std::optional<int> status = line.parse(arguments)) {
         return *status;
     }
-    if (line.isSet(rules)) {
+    if (line.isSet(LIST_RULES)) {
         return listRules();
     }
-    if (line.files().isEmpty()) {
-        return CCommandLine::refuse(QCoreApplication::translate("tools", "No file is named."));
-    }
     SRequest request;
-    request.warningsAsErrors = line.isSet(warnings);
-    request.verbose = line.isSet(verbose);
-    request.quiet = line.isSet(quiet);
-    const QStringList formats = {QStringLiteral("text"), QStringLiteral("json"), QStringLiteral("sarif")};
-    if (line.isSet(format)) {
-        const int number = int(formats.indexOf(line.value(format)));
-        if (number < 0) {
-            return CCommandLine::refuse(
-                QCoreApplication::translate("xddcheck", "'%1' is no format.").arg(line.value(format)));
-        }
-        request.format = static_cast<EFormat>(number);
-    }
-    const QString unknown = disabledRules(line.values(disable), request.disabled);
-    if (!unknown.isNull()) {
-        return CCommandLine::refuse(QCoreApplication::translate("xddcheck", "'%1' is no rule.").arg(unknown));
-    }
-    return checkAll(request, line.files());
+    const QString refusal = readRequest(line, request);
+    return refusal.isEmpty() ? checkAll(request, line.files()) : CCommandLine::refuse(refusal);
 }
 } // namespace
 

@@ -3,6 +3,8 @@
 #include "COutput.h"
 #include "Messages.h"
 
+#include <CCanOpenNames.h>
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -63,9 +65,10 @@ QJsonValue toJson(const CVersion& version)
 }
 
 // What objects and sub-objects have in common. Their index has a key of its own name.
-QJsonObject entryJson(const char* indexKey, const CCanOpenSubObject& entry)
+QJsonObject entryJson(const char* indexKey, const CCanOpenSubObject& entry, const QString& address)
 {
     return {
+        {key("address"), address},
         {key(indexKey), toJson(entry.mIndex)},
         {key("name"), entry.mName},
         {key("objectType"), entry.mObjectType},
@@ -86,9 +89,9 @@ QJsonObject entryJson(const char* indexKey, const CCanOpenSubObject& entry)
     };
 }
 
-QJsonValue toJson(const CCanOpenSubObject& subObject)
+QJsonObject subObjectJson(unsigned int index, const CCanOpenSubObject& subObject)
 {
-    return entryJson("subIndex", subObject);
+    return entryJson("subIndex", subObject, CCanOpenNames::entry(index, subObject.mIndex));
 }
 
 QJsonObject toJson(const CCanOpenObject& object);
@@ -104,9 +107,13 @@ template <typename Item> QJsonArray toJson(const QList<Item>& items)
 
 QJsonObject toJson(const CCanOpenObject& object)
 {
-    QJsonObject json = entryJson("index", object);
+    QJsonArray subObjects;
+    for (const CCanOpenSubObject& subObject : object.mSubObjects) {
+        subObjects.append(subObjectJson(object.mIndex, subObject));
+    }
+    QJsonObject json = entryJson("index", object, CCanOpenNames::entry(object.mIndex));
     json[key("subNumber")] = object.mSubNumber;
-    json[key("subObjects")] = toJson(object.mSubObjects);
+    json[key("subObjects")] = subObjects;
     return json;
 }
 
@@ -210,22 +217,21 @@ CJsonReport::CJsonReport(COutput& output)
 
 void CJsonReport::showDescription(const SShownDescription& description)
 {
-    const CXddStated& stated = description.stated;
     QJsonObject device = toJson(description.reader->deviceProfile());
     QJsonObject network = toJson(description.reader->networkProfile());
     // What the library or the normaliser supplied is not stated by the file.
-    const auto clear = [](QJsonObject& object, const char* name, bool isStated, const QJsonValue& nothing) {
-        if (!isStated) {
+    const auto clear = [&](QJsonObject& object, const char* name, CXddDocument::EItem item, const QJsonValue& nothing) {
+        if (!description.document.states(item)) {
             object[key(name)] = nothing;
         }
     };
-    clear(device, "fileCreationDate", stated.mDeviceCreationDate, QJsonValue());
-    clear(network, "fileCreationDate", stated.mNetworkCreationDate, QJsonValue());
-    clear(network, "mandatoryObjects", stated.mMandatoryObjects, QJsonValue());
-    clear(network, "optionalObjects", stated.mOptionalObjects, QJsonValue());
-    clear(network, "manufacturerObjects", stated.mManufacturerObjects, QJsonValue());
-    clear(network, "baudRate", stated.mBaudRate, QJsonValue());
-    clear(network, "supportedBaudRates", stated.mSupportedBaudRates, QJsonArray());
+    clear(device, "fileCreationDate", CXddDocument::ITEM_DEVICE_CREATION_DATE, QJsonValue());
+    clear(network, "fileCreationDate", CXddDocument::ITEM_NETWORK_CREATION_DATE, QJsonValue());
+    clear(network, "mandatoryObjects", CXddDocument::ITEM_MANDATORY_OBJECTS, QJsonValue());
+    clear(network, "optionalObjects", CXddDocument::ITEM_OPTIONAL_OBJECTS, QJsonValue());
+    clear(network, "manufacturerObjects", CXddDocument::ITEM_MANUFACTURER_OBJECTS, QJsonValue());
+    clear(network, "baudRate", CXddDocument::ITEM_BAUD_RATE, QJsonValue());
+    clear(network, "supportedBaudRates", CXddDocument::ITEM_SUPPORTED_BAUD_RATES, QJsonArray());
     mOutput.writeLine(oneLine({
         {key("file"), description.fileName},
         {key("deviceProfile"), device},
@@ -233,13 +239,13 @@ void CJsonReport::showDescription(const SShownDescription& description)
     }));
 }
 
-void CJsonReport::showEntries(const SShownDescription& description, const QVector<SShownEntry>& entries)
+void CJsonReport::showEntries(const SShownDescription& description, const QVector<SSelectedEntry>& entries)
 {
-    for (const SShownEntry& entry : entries) {
+    for (const SSelectedEntry& entry : entries) {
         QJsonObject json{{key("file"), description.fileName}};
         if (entry.subObject) {
             json[key("index")] = toJson(entry.object.mIndex);
-            json[key("subObject")] = toJson(*entry.subObject);
+            json[key("subObject")] = subObjectJson(entry.object.mIndex, *entry.subObject);
         } else {
             json[key("object")] = toJson(entry.object);
         }

@@ -23,7 +23,7 @@ public:
     void showDescription(const SShownDescription& description);
 
     /** Shows objects and sub-objects, each on a line of its own. */
-    void showEntries(const SShownDescription& description, const QVector<SShownEntry>& entries);
+    void showEntries(const SShownDescription& description, const QVector<SSelectedEntry>& entries);
 
 private:
     COutput& mOutput;

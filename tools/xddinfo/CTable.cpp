@@ -11,9 +11,6 @@ namespace
 // Between two columns.
 constexpr int GAP = 2;
 
-// A column is not made narrower than this to fit a terminal.
-constexpr int MIN_WIDTH = 8;
-
 // A column is not made wider than this; a longer text pushes the rest of its line to the right. Descriptions come from
 // outside; a name of a megabyte must not become a megabyte in every line.
 constexpr int MAX_WIDTH = 120;
@@ -49,6 +46,15 @@ QString fitted(const QString& text, int width)
     }
     return beginning + dots;
 }
+// The width of a whole line.
+int totalOf(const QVector<int>& widths)
+{
+    int total = 0;
+    for (const int width : widths) {
+        total += width == 0 ? 0 : width + GAP;
+    }
+    return total - GAP;
+}
 } // namespace
 
 int columnsOf(const QString& text)
@@ -66,8 +72,8 @@ int columnsOf(const QString& text)
     return columns;
 }
 
-CTable::CTable(const QStringList& head)
-    : mRows{head}
+CTable::CTable(const QVector<SColumn>& columns)
+    : mColumns(columns)
 {}
 
 void CTable::addRow(const QStringList& row)
@@ -75,18 +81,23 @@ void CTable::addRow(const QStringList& row)
     mRows << row;
 }
 
+bool CTable::fits(int width) const
+{
+    return width == 0 || totalOf(naturalWidths()) <= width;
+}
+
 void CTable::write(COutput& output, int width) const
 {
     const QVector<int> columns = widths(width);
-    for (const QStringList& row : mRows) {
+    const auto writeRow = [&](const auto& textOf) {
         QString line;
         int end = 0; // Where the columns up to here end
         int used = 0;
-        for (int column = 0; column < row.size(); ++column) {
+        for (int column = 0; column < columns.size(); ++column) {
             if (columns[column] == 0) {
                 continue;
             }
-            const QString text = width > 0 ? fitted(row[column], columns[column]) : row[column];
+            const QString text = width > 0 ? fitted(textOf(column), columns[column]) : textOf(column);
             if (!text.isEmpty()) {
                 const int gap = std::max(end - used, used == 0 ? 0 : 1);
                 line += QString(gap, QLatin1Char(' ')) + text;
@@ -95,31 +106,41 @@ void CTable::write(COutput& output, int width) const
             end += columns[column] + GAP;
         }
         output.writeLine(line);
+    };
+    writeRow([this](int column) { return mColumns.at(column).head; });
+    for (const QStringList& row : mRows) {
+        writeRow([&row](int column) { return row.at(column); });
     }
 }
 
-// The width of every column, 0 for one that is left out. What is too much is taken from the widest, bit by bit.
+// The width of every column; 0 for one without a text.
+QVector<int> CTable::naturalWidths() const
+{
+    QVector<int> widths(mColumns.size(), 0);
+    for (const QStringList& row : mRows) {
+        for (int column = 0; column < widths.size(); ++column) {
+            widths[column] = std::min(std::max(widths[column], columnsOf(row[column])), MAX_WIDTH);
+        }
+    }
+    for (int column = 0; column < widths.size(); ++column) {
+        widths[column] = widths[column] == 0 ? 0 : std::max(widths[column], columnsOf(mColumns[column].head));
+    }
+    return widths;
+}
+
+// The width that every column gets; 0 for one that is left out.
 QVector<int> CTable::widths(int width) const
 {
-    QVector<int> columns(mRows.first().size(), 0);
-    for (int row = 1; row < mRows.size(); ++row) {
-        for (int column = 0; column < columns.size(); ++column) {
-            columns[column] = std::min(std::max(columns[column], columnsOf(mRows[row][column])), MAX_WIDTH);
+    QVector<int> widths = naturalWidths();
+    for (int column = int(widths.size()) - 1; column >= 0 && width > 0 && totalOf(widths) > width; --column) {
+        widths[column] = mColumns[column].isOptional ? 0 : widths[column];
+    }
+    for (int column = 0; column < widths.size() && width > 0; ++column) {
+        const int excess = std::max(totalOf(widths) - width, 0);
+        const int least = std::min(mColumns[column].minWidth, widths[column]);
+        if (least > 0) {
+            widths[column] = std::max(widths[column] - excess, least);
         }
     }
-    int total = 0;
-    for (int column = 0; column < columns.size(); ++column) {
-        if (columns[column] > 0) {
-            columns[column] = std::max(columns[column], columnsOf(mRows.first()[column]));
-            total += columns[column] + GAP;
-        }
-    }
-    for (int excess = width > 0 ? total - GAP - width : 0; excess > 0; --excess) {
-        int& widest = *std::max_element(columns.begin(), columns.end());
-        if (widest <= MIN_WIDTH) {
-            break;
-        }
-        --widest;
-    }
-    return columns;
+    return widths;
 }

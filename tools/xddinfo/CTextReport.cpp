@@ -14,6 +14,9 @@ namespace
 // Width of the names of fields, in columns.
 constexpr int FIELD_NAME_WIDTH = 24;
 
+// The object code of a variable.
+constexpr unsigned int VARIABLE = 7;
+
 // As many PDOs of one direction are shown with what they map; a device can have 512.
 constexpr int MAX_SHOWN_PDOS = 16;
 
@@ -122,21 +125,41 @@ template <typename Profile> QString fileText(const Profile& profile, bool hasCre
         QStringLiteral(", "));
 }
 
-QStringList dictionaryRow(
-    const QString& index, const QString& subIndex, const QString& indent, const CCanOpenSubObject& entry)
+// What kind of entry it is: the data type of a variable, else the object code.
+QString typeShown(const CCanOpenSubObject& entry, bool isShort)
 {
-    return {
-        index,
-        subIndex,
-        indent + printable(entry.mName),
-        CCanOpenNames::objectCode(entry.mObjectType),
-        CCanOpenNames::dataType(entry.mDataType),
-        accessShown(entry),
-        mappingShown(entry),
-        printable(entry.mDefaultValue),
-        printable(entry.mActualValue),
-        printable(entry.mLowLimit),
-        printable(entry.mHighLimit)};
+    if (entry.mObjectType != VARIABLE || entry.mDataType == 0) {
+        return CCanOpenNames::objectCode(entry.mObjectType);
+    }
+    return isShort ? CCanOpenNames::shortDataType(entry.mDataType) : CCanOpenNames::dataType(entry.mDataType);
+}
+
+CTable dictionaryTable(const QMap<unsigned int, CCanOpenObject>& objects, bool isShort)
+{
+    CTable table({
+        {CTextReport::tr("Index")},
+        {CTextReport::tr("Name"), 16},
+        {CTextReport::tr("Type")},
+        {CTextReport::tr("Access")},
+        {CTextReport::tr("PDO")},
+        {CTextReport::tr("Default"), 8},
+        {CTextReport::tr("Actual"), 8},
+        {CTextReport::tr("Low"), 8, true},
+        {CTextReport::tr("High"), 8, true},
+    });
+    const auto addRow = [&](const QString& address, const QString& indent, const CCanOpenSubObject& entry) {
+        table.addRow(
+            {address, indent + printable(entry.mName), typeShown(entry, isShort), accessShown(entry),
+             mappingShown(entry), printable(entry.mDefaultValue), printable(entry.mActualValue),
+             printable(entry.mLowLimit), printable(entry.mHighLimit)});
+    };
+    for (const CCanOpenObject& object : objects) {
+        addRow(CCanOpenNames::entry(object.mIndex), QString(), object);
+        for (const CCanOpenSubObject& subObject : object.mSubObjects) {
+            addRow(CCanOpenNames::entry(object.mIndex, subObject.mIndex), QStringLiteral("  "), subObject);
+        }
+    }
+    return table;
 }
 
 const CCanOpenSubObject* subObjectOf(const CCanOpenObject& object, unsigned int subIndex)
@@ -155,7 +178,7 @@ QString identityValue(const CCanOpenObject& identity, unsigned int subIndex)
         return QString();
     }
     const QString value = entry->mActualValue.isEmpty() ? entry->mDefaultValue : entry->mActualValue;
-    const QString place = QStringLiteral("0x1018:%1").arg(subIndex);
+    const QString place = CCanOpenNames::entry(0x1018, subIndex);
     return value.isEmpty() ? QCoreApplication::translate("xddinfo", "in the device (%1)").arg(place)
                            : QStringLiteral("%1 (%2)").arg(value, place);
 }
@@ -175,43 +198,46 @@ void CTextReport::showDescription(const SShownDescription& description)
     showFiles(description);
     mOutput.writeLine();
     showBitRates(description);
-    showPdos(tr("Receive PDOs"), receivePdos(network.mObjects));
-    showPdos(tr("Transmit PDOs"), transmitPdos(network.mObjects));
+    showPdos(tr("Receive PDOs"), description.pdos, false);
+    showPdos(tr("Transmit PDOs"), description.pdos, true);
     mOutput.writeLine();
     using Kind = CCanOpenNames::EObjectKind;
-    const CXddStated& stated = description.stated;
+    const auto isStated = [&description](CXddDocument::EItem item) {
+        return description.document.states(item);
+    };
     showCount(
-        tr("Mandatory objects"), stated.mMandatoryObjects, network.mMandatoryObjects, Kind::Mandatory,
+        tr("Mandatory objects"), isStated(CXddDocument::ITEM_MANDATORY_OBJECTS), network.mMandatoryObjects,
+        Kind::Mandatory, network.mObjects);
+    showCount(
+        tr("Optional objects"), isStated(CXddDocument::ITEM_OPTIONAL_OBJECTS), network.mOptionalObjects, Kind::Optional,
         network.mObjects);
     showCount(
-        tr("Optional objects"), stated.mOptionalObjects, network.mOptionalObjects, Kind::Optional, network.mObjects);
-    showCount(
-        tr("Manufacturer objects"), stated.mManufacturerObjects, network.mManufacturerObjects, Kind::Manufacturer,
-        network.mObjects);
+        tr("Manufacturer objects"), isStated(CXddDocument::ITEM_MANUFACTURER_OBJECTS), network.mManufacturerObjects,
+        Kind::Manufacturer, network.mObjects);
     mOutput.writeLine();
     showDictionary(network.mObjects);
 }
 
-void CTextReport::showEntries(const SShownDescription& description, const QVector<SShownEntry>& entries)
+void CTextReport::showEntries(const SShownDescription& description, const QVector<SSelectedEntry>& entries)
 {
     showSource(description);
     bool isFirst = true;
-    for (const SShownEntry& entry : entries) {
+    for (const SSelectedEntry& entry : entries) {
         if (!isFirst) {
             mOutput.writeLine();
         }
         isFirst = false;
         if (entry.subObject) {
-            showSubObject(entry.object.mIndex, *entry.subObject, QString());
+            showSubObject(entry.object, *entry.subObject, QString());
             continue;
         }
-        mOutput.writeLine(tr("Object %1").arg(CCanOpenNames::index(entry.object.mIndex)));
+        mOutput.writeLine(tr("Object %1").arg(CCanOpenNames::entry(entry.object.mIndex)));
         showFields(entry.object, QStringLiteral("  "));
         showField(
             QStringLiteral("  "), tr("Stated sub-objects"),
             entry.object.mSubNumber == 0 ? QString() : QString::number(entry.object.mSubNumber));
         for (const CCanOpenSubObject& subObject : entry.object.mSubObjects) {
-            showSubObject(entry.object.mIndex, subObject, QStringLiteral("  "));
+            showSubObject(entry.object, subObject, QStringLiteral("  "));
         }
     }
 }
@@ -260,8 +286,10 @@ void CTextReport::showStandardObjects(const QMap<unsigned int, CCanOpenObject>& 
 // One line where both profiles say the same.
 void CTextReport::showFiles(const SShownDescription& description)
 {
-    const QString device = fileText(description.reader->deviceProfile(), description.stated.mDeviceCreationDate);
-    const QString network = fileText(description.reader->networkProfile(), description.stated.mNetworkCreationDate);
+    const QString device = fileText(
+        description.reader->deviceProfile(), description.document.states(CXddDocument::ITEM_DEVICE_CREATION_DATE));
+    const QString network = fileText(
+        description.reader->networkProfile(), description.document.states(CXddDocument::ITEM_NETWORK_CREATION_DATE));
     if (device.isEmpty() && network.isEmpty()) {
         return;
     }
@@ -284,28 +312,33 @@ void CTextReport::showBitRates(const SShownDescription& description)
     }
     const QString rate = rateShown(network.mBaudRate);
     showField(
-        QString(), tr("Default bit rate"), rate.isEmpty() || description.stated.mBaudRate ? rate : supplied.arg(rate));
-    if (description.stated.mSupportedBaudRates) {
+        QString(), tr("Default bit rate"),
+        rate.isEmpty() || description.document.states(CXddDocument::ITEM_BAUD_RATE) ? rate : supplied.arg(rate));
+    if (description.document.states(CXddDocument::ITEM_SUPPORTED_BAUD_RATES)) {
         showField(QString(), tr("Supported bit rates"), supported.join(QLatin1String(", ")));
     }
 }
 
-void CTextReport::showPdos(const QString& name, const QVector<SPdo>& pdos)
+void CTextReport::showPdos(const QString& name, const QList<CXddPdo>& pdos, bool isTransmit)
 {
-    showField(QString(), name, QString::number(pdos.size()));
-    int shown = 0;
-    int more = 0;
-    for (const SPdo& pdo : pdos) {
-        if (pdo.mapped.isEmpty()) {
-            continue;
+    QList<CXddPdo> mapped;
+    int count = 0;
+    for (const CXddPdo& pdo : pdos) {
+        if (pdo.mIsTransmit == isTransmit) {
+            ++count;
+            mapped << (pdo.mFields.isEmpty() ? QList<CXddPdo>() : QList<CXddPdo>{pdo});
         }
-        if (++shown > MAX_SHOWN_PDOS) {
-            ++more;
-            continue;
-        }
-        showField(QStringLiteral("  "), tr("PDO %1").arg(pdo.number), pdo.mapped.join(QLatin1String(", ")));
     }
-    showField(QStringLiteral("  "), tr("more"), more == 0 ? QString() : QString::number(more));
+    showField(QString(), name, QString::number(count));
+    for (const CXddPdo& pdo : mapped.mid(0, MAX_SHOWN_PDOS)) {
+        QStringList entries;
+        for (const CXddPdoField& field : pdo.mFields) {
+            entries << field.entry();
+        }
+        showField(QStringLiteral("  "), tr("PDO %1").arg(pdo.mNumber), entries.join(QLatin1String(", ")));
+    }
+    const auto more = mapped.size() - MAX_SHOWN_PDOS;
+    showField(QStringLiteral("  "), tr("more"), more <= 0 ? QString() : QString::number(more));
 }
 
 void CTextReport::showCount(
@@ -323,25 +356,16 @@ void CTextReport::showCount(
                            : tr("%1 (the file states %2)").arg(QString::number(found), QString::number(stated)));
 }
 
+// With short names of data types where the long ones do not fit.
 void CTextReport::showDictionary(const QMap<unsigned int, CCanOpenObject>& objects)
 {
-    CTable table(
-        {tr("Index"), tr("Sub"), tr("Name"), tr("Object"), tr("Data type"), tr("Access"), tr("PDO"), tr("Default"),
-         tr("Actual"), tr("Low"), tr("High")});
-    for (const CCanOpenObject& object : objects) {
-        table.addRow(dictionaryRow(CCanOpenNames::index(object.mIndex), QString(), QString(), object));
-        for (const CCanOpenSubObject& subObject : object.mSubObjects) {
-            table.addRow(
-                dictionaryRow(QString(), CCanOpenNames::subIndex(subObject.mIndex), QStringLiteral("  "), subObject));
-        }
-    }
-    table.write(mOutput, mWidth);
+    const CTable table = dictionaryTable(objects, false);
+    (table.fits(mWidth) ? table : dictionaryTable(objects, true)).write(mOutput, mWidth);
 }
 
-void CTextReport::showSubObject(unsigned int index, const CCanOpenSubObject& subObject, const QString& indent)
+void CTextReport::showSubObject(const CCanOpenObject& object, const CCanOpenSubObject& subObject, const QString& indent)
 {
-    mOutput.writeLine(
-        indent + tr("Sub-object %1 of %2").arg(CCanOpenNames::subIndex(subObject.mIndex), CCanOpenNames::index(index)));
+    mOutput.writeLine(indent + tr("Sub-object %1").arg(CCanOpenNames::entry(object.mIndex, subObject.mIndex)));
     showFields(subObject, indent + QLatin1String("  "));
 }
 
@@ -357,7 +381,9 @@ void CTextReport::showFields(const CCanOpenSubObject& entry, const QString& inde
     showField(indent, tr("Low limit"), entry.mLowLimit);
     showField(indent, tr("High limit"), entry.mHighLimit);
     showField(indent, tr("Denotation"), entry.mDenotation);
-    showField(indent, tr("Flags"), entry.mObjFlags == 0 ? QString() : CCanOpenNames::index(entry.mObjFlags));
+    showField(
+        indent, tr("Flags"),
+        entry.mObjFlags == 0 ? QString() : QStringLiteral("0x") + QString::number(entry.mObjFlags, 16).toUpper());
     showField(indent, tr("Parameter"), entry.mUniqueIdRef);
 }
 

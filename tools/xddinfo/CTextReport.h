@@ -1,7 +1,6 @@
 #ifndef XDDINFO_CTEXTREPORT_H
 #define XDDINFO_CTEXTREPORT_H
 
-#include "PdoMappings.h"
 #include "ShownDescription.h"
 
 #include <CCanOpenNames.h>
@@ -23,7 +22,7 @@ public:
     void showDescription(const SShownDescription& description);
 
     /** Shows every field of objects with their sub-objects, or of sub-objects. */
-    void showEntries(const SShownDescription& description, const QVector<SShownEntry>& entries);
+    void showEntries(const SShownDescription& description, const QVector<SSelectedEntry>& entries);
 
 private:
     void showSource(const SShownDescription& description);
@@ -31,12 +30,12 @@ private:
     void showStandardObjects(const QMap<unsigned int, CCanOpenObject>& objects);
     void showFiles(const SShownDescription& description);
     void showBitRates(const SShownDescription& description);
-    void showPdos(const QString& name, const QVector<SPdo>& pdos);
+    void showPdos(const QString& name, const QList<CXddPdo>& pdos, bool isTransmit);
     void showCount(
         const QString& name, bool isStated, unsigned int stated, CCanOpenNames::EObjectKind kind,
         const QMap<unsigned int, CCanOpenObject>& objects);
     void showDictionary(const QMap<unsigned int, CCanOpenObject>& objects);
-    void showSubObject(unsigned int index, const CCanOpenSubObject& subObject, const QString& indent);
+    void showSubObject(const CCanOpenObject& object, const CCanOpenSubObject& subObject, const QString& indent);
     void showFields(const CCanOpenSubObject& entry, const QString& indent);
     void showField(const QString& indent, const QString& name, const QString& value);
 

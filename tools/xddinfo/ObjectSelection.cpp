@@ -6,11 +6,8 @@
 
 QString SObjectSelection::text() const
 {
-    const QString index = CCanOpenNames::index(first);
-    if (subIndex) {
-        return index + QLatin1Char(':') + QString::number(*subIndex, 16).toUpper();
-    }
-    return first == last ? index : index + QLatin1Char('-') + CCanOpenNames::index(last);
+    const QString entry = CCanOpenNames::entry(first, subIndex);
+    return first == last ? entry : entry + QLatin1Char('-') + CCanOpenNames::entry(last);
 }
 
 std::optional<SObjectSelection> objectSelection(const QString& text)

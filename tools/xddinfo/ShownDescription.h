@@ -1,7 +1,8 @@
 #ifndef XDDINFO_SHOWNDESCRIPTION_H
 #define XDDINFO_SHOWNDESCRIPTION_H
 
-#include <CXddStated.h>
+#include <CXddDocument.h>
+#include <CXddPdos.h>
 #include <ICIso15745.h>
 
 #include <QString>
@@ -13,12 +14,13 @@ struct SShownDescription
 {
     QString fileName; ///< As the user named it
     bool isSample = false;
+    CXddDocument document;
     ICIso15745* reader = nullptr;
-    CXddStated stated;
+    QList<CXddPdo> pdos;
 };
 
 /** An object or a sub-object that is to be shown by itself. */
-struct SShownEntry
+struct SSelectedEntry
 {
     CCanOpenObject object;
     std::optional<CCanOpenSubObject> subObject;

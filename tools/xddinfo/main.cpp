@@ -2,14 +2,13 @@
 #include "CJsonReport.h"
 #include "COutput.h"
 #include "CTextReport.h"
-#include "Files.h"
+#include "Descriptions.h"
 #include "Messages.h"
 #include "ObjectSelection.h"
 
 #include <CXddNormalizer.h>
 
 #include <QCoreApplication>
-#include <QTemporaryFile>
 
 #include <algorithm>
 #include <memory>
@@ -19,11 +18,16 @@
 
 namespace
 {
+const QString JSON = QStringLiteral("json");
+const QString OBJECT = QStringLiteral("object");
+const QString SAMPLE = QStringLiteral("sample");
+const QString STRICT = QStringLiteral("strict");
+
 // What the command line asks for.
 struct SRequest
 {
     QStringList fileNames;
-    bool isSample = false; // No file was named: the embedded sample is shown
+    bool isSample = false;
     bool json = false;
     bool strict = false;
     QVector<SObjectSelection> selections;
@@ -42,18 +46,18 @@ int terminalWidth()
 }
 
 // The entries of a selection; none when there is no such object or sub-object.
-QVector<SShownEntry> entriesOf(const SObjectSelection& selection, const QMap<unsigned int, CCanOpenObject>& objects)
+QVector<SSelectedEntry> entriesOf(const SObjectSelection& selection, const QMap<unsigned int, CCanOpenObject>& objects)
 {
-    QVector<SShownEntry> entries;
+    QVector<SSelectedEntry> entries;
     for (auto object = objects.lowerBound(selection.first); object != objects.end() && object.key() <= selection.last;
          ++object) {
         if (!selection.subIndex) {
-            entries << SShownEntry{*object, std::nullopt};
+            entries << SSelectedEntry{*object, std::nullopt};
             continue;
         }
         for (const CCanOpenSubObject& subObject : object->mSubObjects) {
             if (subObject.mIndex == *selection.subIndex) {
-                entries << SShownEntry{*object, subObject};
+                entries << SSelectedEntry{*object, subObject};
             }
         }
     }
@@ -64,9 +68,9 @@ QVector<SShownEntry> entriesOf(const SObjectSelection& selection, const QMap<uns
 bool showSelections(const SRequest& request, const SShownDescription& description, COutput& output)
 {
     bool ok = true;
-    QVector<SShownEntry> entries;
+    QVector<SSelectedEntry> entries;
     for (const SObjectSelection& selection : request.selections) {
-        const QVector<SShownEntry> selected = entriesOf(selection, description.reader->getObjList());
+        const QVector<SSelectedEntry> selected = entriesOf(selection, description.reader->getObjList());
         if (selected.isEmpty()) {
             complain(QCoreApplication::translate("xddinfo", "%1: There is no object %2.")
                          .arg(description.fileName, selection.text()));
@@ -92,71 +96,63 @@ bool show(const SRequest& request, const SShownDescription& description, COutput
 }
 
 // Says what of a description is not shown, or shown in another way than a strict reader would.
-void reportChanges(const QString& fileName, const QList<CXddChange>& changes)
+void reportRead(const QString& fileName, const QList<CXddRemark>& remarks)
 {
-    QVector<SReportLine> left;
-    for (const CXddChange& change : changes) {
-        if (!change.mChanged) {
-            left << SReportLine{change.mLine, QString(), change.mWhat, QLatin1String(", ") + change.mReason};
+    QList<CXddRemark> left;
+    int interpreted = 0;
+    for (const CXddRemark& remark : remarks) {
+        if (remark.mKind != CXddRemark::KIND_CHANGE) {
+            left << remark;
+        } else if (remark.mSeverity >= CXddRemark::SEVERITY_WARNING) {
+            ++interpreted;
         }
     }
-    for (const SReportLine& line : summedUp(left)) {
-        reportLine(place(fileName, line.line) + line.text + line.ending);
-    }
-    const auto mattering = std::count_if(
-        changes.begin(), changes.end(), [](const CXddChange& change) { return change.mChanged && change.mMatters; });
-    if (mattering > 0) {
-        complain((mattering == 1 ? QCoreApplication::translate(
-                      "xddinfo", "%1: %2 place is not written as the format does and is read as it is "
-                                 "meant; 'xddnormalize --dry-run' shows it.")
-                                 : QCoreApplication::translate(
-                                     "xddinfo", "%1: %2 places are not written as the format does and are read as they "
-                                                "are meant; 'xddnormalize --dry-run' lists them."))
-                     .arg(fileName, QString::number(mattering)));
+    reportRemarks(fileName, summedUp(left));
+    if (interpreted > 0) {
+        complain(QCoreApplication::translate(
+                     "xddinfo",
+                     "%1: %n place(s) not written as the format does, read as meant; 'xddnormalize --dry-run' lists "
+                     "them.",
+                     nullptr, interpreted)
+                     .arg(fileName));
     }
 }
 
-// Loads a description from `path`, which is a copy of what the user calls `fileName`.
-bool load(const SRequest& request, const QString& path, const QString& fileName, ICIso15745& reader)
+bool loadStrict(const CXddDocument& document, ICIso15745& reader)
 {
-    QList<CXddChange> changes;
     QString errorText;
-    const bool loaded =
-        request.strict ? reader.load(path, errorText) : CXddNormalizer::load(reader, path, changes, errorText);
-    if (loaded) {
-        reportChanges(fileName, changes);
+    if (CXddNormalizer::loadAsItIs(document, reader, errorText)) {
         return true;
     }
-    complainAbout(fileName, errorText.replace(path, fileName));
-    if (request.strict) {
-        const std::unique_ptr<ICIso15745> lenient(ICIso15745::create());
-        if (CXddNormalizer::load(*lenient, path, changes, errorText)) {
-            complain(QCoreApplication::translate(
-                "xddinfo", "Without --strict it is shown; xddnormalize writes a copy that loads."));
-        }
+    complain(errorText.contains(document.name()) ? errorText : document.name() + QLatin1String(": ") + errorText);
+    if (document.isOpen()) {
+        complain(QCoreApplication::translate(
+            "xddinfo", "Without --strict it is shown; xddnormalize writes a copy that loads."));
     }
     return false;
 }
 
-bool showFile(const SRequest& request, const QString& fileName, COutput& output)
+bool loadNormalized(const CXddDocument& document, ICIso15745& reader)
 {
-    QByteArray bytes;
-    QString errorText;
-    QString path = fileName;
-    QTemporaryFile copy;
-    const bool read = readFile(fileName, bytes, errorText);
-    if (fileName == standardStream()) {
-        if (!read || !copy.open() || copy.write(bytes) != bytes.size() || !copy.flush()) {
-            complainAbout(fileName, read ? copy.errorString() : errorText);
-            return false;
-        }
-        path = copy.fileName();
-    }
-    const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
-    if (!load(request, path, fileName, *reader)) {
+    QList<CXddRemark> remarks;
+    CXddRemark failure;
+    if (!CXddNormalizer::load(document, reader, remarks, failure)) {
+        complainAbout(document.name(), failure);
         return false;
     }
-    return show(request, {fileName, request.isSample, reader.get(), CXddStated::in(bytes)}, output);
+    reportRead(document.name(), remarks);
+    return true;
+}
+
+bool showFile(const SRequest& request, const QString& fileName, COutput& output)
+{
+    const CXddDocument document = readDescription(fileName);
+    const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
+    if (!(request.strict ? loadStrict(document, *reader) : loadNormalized(document, *reader))) {
+        return false;
+    }
+    const QList<CXddPdo> pdos = request.strict ? CXddPdos::of(reader->getObjList()) : CXddPdos::of(document);
+    return show(request, {fileName, request.isSample, document, reader.get(), pdos}, output);
 }
 
 int showAll(const SRequest& request)
@@ -172,47 +168,51 @@ int showAll(const SRequest& request)
     return output.finish() && ok ? EXIT_ALL_DONE : EXIT_NOT_ALL_DONE;
 }
 
+// What the command line asks for; else the reason why it is refused.
+QString readRequest(const CCommandLine& line, SRequest& request)
+{
+    request.fileNames = line.files();
+    request.isSample = line.isSet(SAMPLE);
+    request.json = line.isSet(JSON);
+    request.strict = line.isSet(STRICT);
+    for (const QString& text : line.values(OBJECT)) {
+        const std::optional<SObjectSelection> selection = objectSelection(text);
+        if (!selection) {
+            return QCoreApplication::translate("xddinfo", "'%1' is not an index.").arg(text);
+        }
+        request.selections << *selection;
+    }
+    if (request.isSample) {
+        request.fileNames.prepend(embeddedSample());
+    }
+    return request.fileNames.isEmpty()
+               ? QCoreApplication::translate("xddinfo", "No file is named; --sample shows the embedded sample.")
+               : QString();
+}
+
 int run(const QStringList& arguments)
 {
     CCommandLine line(
         QCoreApplication::translate("xddinfo", "Shows what is in CANopen device descriptions (ISO 15745 XML, xdd)."),
+        QCoreApplication::translate("xddinfo", "A description; - is standard input."), QStringLiteral("FILE..."));
+    line.add({JSON}, QCoreApplication::translate("xddinfo", "Print the whole model as JSON, one line for each file."));
+    line.add(
+        {OBJECT},
         QCoreApplication::translate(
-            "xddinfo", "A description; - is standard input. Without one the embedded sample is shown."),
-        QStringLiteral("[FILE...]"));
-    const auto json = line.add(
-        {QStringLiteral("json")},
-        QCoreApplication::translate("xddinfo", "Print the whole model as JSON, one line for each file."));
-    const auto object = line.add(
-        {QStringLiteral("object")},
-        QCoreApplication::translate(
-            "xddinfo", "Show objects in full, in hexadecimal: 0x1018, 1018h, 0x1018:1, 0x1018sub1 or 0x1800-0x1803. "
-                       "May be given several times."),
+            "xddinfo",
+            "Show objects in full, in hexadecimal: 0x1018, 1018h, 0x1018:01, 0x1018sub1 or 0x1800-0x1803. May be given "
+            "several times."),
         QCoreApplication::translate("xddinfo", "index"));
-    const auto strict = line.add(
-        {QStringLiteral("strict")},
-        QCoreApplication::translate(
-            "xddinfo", "Read the files exactly as the library does, not as xddnormalize would write them."));
+    line.add({SAMPLE}, QCoreApplication::translate("xddinfo", "Show the sample that the library carries."));
+    line.add(
+        {STRICT}, QCoreApplication::translate(
+                      "xddinfo", "Read the files exactly as the library does, not as xddnormalize would write them."));
     if (const std::optional<int> status = line.parse(arguments)) {
         return *status;
     }
     SRequest request;
-    request.fileNames = line.files();
-    request.isSample = request.fileNames.isEmpty();
-    if (request.isSample) {
-        request.fileNames << embeddedSample();
-    }
-    request.json = line.isSet(json);
-    request.strict = line.isSet(strict);
-    for (const QString& text : line.values(object)) {
-        for (const QString& part : text.split(QLatin1Char(','))) {
-            const std::optional<SObjectSelection> selection = objectSelection(part);
-            if (!selection) {
-                return CCommandLine::refuse(QCoreApplication::translate("xddinfo", "'%1' is not an index.").arg(part));
-            }
-            request.selections << *selection;
-        }
-    }
-    return showAll(request);
+    const QString refusal = readRequest(line, request);
+    return refusal.isEmpty() ? showAll(request) : CCommandLine::refuse(refusal);
 }
 } // namespace
 

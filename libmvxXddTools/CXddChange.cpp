@@ -1,3 +1,0 @@
-#include "CXddChange.h"
-
-CXddChange::CXddChange() = default;

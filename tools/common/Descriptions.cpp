@@ -1,0 +1,27 @@
+#include "Descriptions.h"
+
+#include "CCommandLine.h"
+#include "Messages.h"
+
+#include <QFile>
+
+#include <cstdio>
+
+CXddDocument readDescription(const QString& fileName)
+{
+    if (fileName != standardStream()) {
+        return CXddDocument::openFile(fileName);
+    }
+    QFile input;
+    input.open(stdin, QIODevice::ReadOnly);
+    return CXddDocument::open(input, fileName);
+}
+
+CXddDocument openDescription(const QString& fileName)
+{
+    CXddDocument document = readDescription(fileName);
+    if (!document.isOpen()) {
+        complainAbout(fileName, document.failure());
+    }
+    return document;
+}

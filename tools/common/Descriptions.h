@@ -1,0 +1,16 @@
+#ifndef TOOLS_DESCRIPTIONS_H
+#define TOOLS_DESCRIPTIONS_H
+
+#include <CXddDocument.h>
+
+/** @file
+ * How tools open the files that they are given.
+ */
+
+/** Opens a file, or standard input for "-". Whether it is open is the caller's question. */
+CXddDocument readDescription(const QString& fileName);
+
+/** Opens a file and complains where that fails. */
+CXddDocument openDescription(const QString& fileName);
+
+#endif

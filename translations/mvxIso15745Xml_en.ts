@@ -1,0 +1,82 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>mvxXddTools</name>
+    <message numerus="yes">
+        <source>%1 with %n sub-object(s)</source>
+        <translation>
+            <numerusform>%1 with %n sub-object</numerusform>
+            <numerusform>%1 with %n sub-objects</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>the structure has %n member(s), but %1 (line %2) has another number of sub-objects: %3</source>
+        <translation>
+            <numerusform>the structure has %n member, but %1 (line %2) has another number of sub-objects: %3</numerusform>
+            <numerusform>the structure has %n members, but %1 (line %2) has another number of sub-objects: %3</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xdd2eds</name>
+    <message numerus="yes">
+        <source>%1: %n entry(s)</source>
+        <translation>
+            <numerusform>%1: %n entry</numerusform>
+            <numerusform>%1: %n entries</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n of them not fully represented</source>
+        <translation>
+            <numerusform>%1, %n of them not fully represented</numerusform>
+            <numerusform>%1, %n of them not fully represented</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xddcheck</name>
+    <message numerus="yes">
+        <source>%n error(s)</source>
+        <translation>
+            <numerusform>%n error</numerusform>
+            <numerusform>%n errors</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n warning(s)</source>
+        <translation>
+            <numerusform>%n warning</numerusform>
+            <numerusform>%n warnings</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s)</source>
+        <translation>
+            <numerusform>%n note</numerusform>
+            <numerusform>%n notes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xddinfo</name>
+    <message numerus="yes">
+        <source>%1: %n place(s) not written as the format does, read as meant; &apos;xddnormalize --dry-run&apos; lists them.</source>
+        <translation>
+            <numerusform>%1: %n place not written as the format does, read as meant; &apos;xddnormalize --dry-run&apos; lists them.</numerusform>
+            <numerusform>%1: %n places not written as the format does, read as meant; &apos;xddnormalize --dry-run&apos; lists them.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xddnormalize</name>
+    <message numerus="yes">
+        <source>%1: %n change(s)</source>
+        <translation>
+            <numerusform>%1: %n change</numerusform>
+            <numerusform>%1: %n changes</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
