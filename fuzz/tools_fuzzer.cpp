@@ -8,8 +8,8 @@
 #include <cstdint>
 #include <memory>
 
-// Opens arbitrary bytes, and normalises, loads, checks and converts what they describe. Any file given on the command line
-// is taken once, without fuzzing.
+// Opens arbitrary bytes, and normalises, loads, checks and converts what they describe. Any file given on the command
+// line is taken once, without fuzzing.
 
 namespace
 {

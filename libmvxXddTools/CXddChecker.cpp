@@ -4,14 +4,50 @@
 #include "canopen/NFormatWords.h"
 #include "check/CCheckRules.h"
 
+#include <QHash>
+#include <QSet>
+
+#include <algorithm>
+
 using namespace NFormatWords;
 
 namespace
 {
 std::vector<const CheckRules*> checkRuleTables()
 {
-    return {&CCheckRules::form(),  &CCheckRules::identity(), &CCheckRules::object(), &CCheckRules::type(),
-            &CCheckRules::value(), &CCheckRules::pdo(),      &CCheckRules::cobId(),  &CCheckRules::network()};
+    return {&CCheckRules::form(),   &CCheckRules::eds(),   &CCheckRules::identity(),
+            &CCheckRules::object(), &CCheckRules::type(),  &CCheckRules::value(),
+            &CCheckRules::pdo(),    &CCheckRules::cobId(), &CCheckRules::network()};
+}
+
+// What another rule finds in an entry because a key of it was not taken, which is said already.
+QString consequenceOf(const CXddRemark& remark)
+{
+    const QString rule = remark.mRule == QLatin1String("access-word")  ? QStringLiteral("missing-access-type ")
+                         : remark.mRule == QLatin1String("eds-number") ? QStringLiteral("missing-data-type ")
+                                                                       : QString();
+    return rule.isEmpty() || remark.mKind != CXddRemark::KIND_LEFT ? QString() : rule + remark.entry();
+}
+
+// What was found while a file was read is a finding where a rule of the table has its ID.
+QSet<QString> addRead(const QList<CXddRemark>& remarks, CRemarks& findings)
+{
+    QHash<QString, CXddRemark::ESeverity> severities;
+    for (const CheckRules* const table : checkRuleTables()) {
+        for (const SCheckRule& rule : *table) {
+            severities.insert(QLatin1String(rule.id), rule.severity);
+        }
+    }
+    QSet<QString> consequences;
+    for (CXddRemark remark : remarks) {
+        consequences << consequenceOf(remark);
+        if (severities.contains(remark.mRule)) {
+            remark.mKind = CXddRemark::KIND_FINDING;
+            remark.mSeverity = severities.value(remark.mRule);
+            findings.add(remark);
+        }
+    }
+    return consequences;
 }
 
 // Other tools take a description without a typed body; those that follow the schema find nothing in it.
@@ -36,16 +72,27 @@ QList<CXddRemark> CXddChecker::check(const CXddDocument& document)
         failure.mKind = CXddRemark::KIND_FINDING;
         return {failure};
     }
+    const SOpened& opened = openedOf(document);
     CRemarks findings;
+    const QSet<QString> said = opened.remarks.isEmpty() ? QSet<QString>() : addRead(opened.remarks, findings);
+    const bool isXml = opened.description.form() == EForm::Xdd;
     for (const CheckRules* const table : checkRuleTables()) {
         for (const SCheckRule& rule : *table) {
-            if (rule.apply != nullptr) {
+            const bool isAboutXml = table == &CCheckRules::form();
+            if (rule.apply != nullptr && (isXml || !isAboutXml)) {
                 findings.setCause(rule.cause(CXddRemark::KIND_FINDING));
-                rule.apply(openedOf(document).description, findings);
+                rule.apply(opened.description, findings);
             }
         }
     }
-    return findings.inOrder();
+    QList<CXddRemark> found = findings.inOrder();
+    if (!said.isEmpty()) {
+        const auto isSaid = [&said](const CXddRemark& finding) {
+            return said.contains(finding.mRule + QLatin1Char(' ') + finding.entry());
+        };
+        found.erase(std::remove_if(found.begin(), found.end(), isSaid), found.end());
+    }
+    return found;
 }
 
 QList<CXddRule> CXddChecker::rules()

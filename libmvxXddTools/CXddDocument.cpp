@@ -3,12 +3,15 @@
 #include "CXmlValue.h"
 #include "NIso15745Tags.h"
 #include "SOpened.h"
+#include "eds/CEdsReader.h"
 #include "remarks/CRemarks.h"
 
 #include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cstring>
+#include <iterator>
 
 using namespace NIso15745Tags;
 
@@ -28,54 +31,81 @@ bool hasDate(const CDescription& description, EProfile kind)
     return CXmlValue::toDate(text) || dateOf(text);
 }
 
-// What a text looks like that is neither XML nor another form of a description; nothing for one that may be.
+// Why a text cannot be one of sections, whatever it says; nothing for one that can.
 QString foreignText(const QString& text)
 {
-    const QString beginning = text.left(1000);
-    const bool isBinary = std::any_of(beginning.begin(), beginning.end(), [](QChar character) {
-        return character < QLatin1Char(' ') && !character.isSpace();
-    });
-    if (beginning.trimmed().isEmpty()) {
+    if (text.trimmed().isEmpty()) {
         return CRemarks::tr("The file is empty.");
     }
-    if (isBinary) {
-        return CRemarks::tr("This is a binary file.");
+    return text.contains(QChar(0)) ? CRemarks::tr("This is a binary file.") : QString();
+}
+
+// Reads an XDD. Returns null with the failure.
+std::shared_ptr<SOpened> openXdd(const QByteArray& bytes, CXddRemark& failure)
+{
+    CEncodedText encoded;
+    CXmlTree tree;
+    failure.mRule = QStringLiteral("not-well-formed");
+    if (!encoded.decode(bytes, failure.mText) || !tree.read(encoded.text(), failure)) {
+        return nullptr;
     }
-    const QString firstLine = beginning.trimmed().section(QLatin1Char('\n'), 0, 0).trimmed();
-    return firstLine.startsWith(QLatin1Char('<'))
-               ? QString()
-               : CRemarks::filled(CRemarks::tr("This is not XML: it begins with \"%1\"."), {firstLine});
+    auto opened = std::make_shared<SOpened>(std::move(encoded), std::move(tree), EForm::Xdd);
+    failure.mRule = QStringLiteral("not-a-description");
+    return opened->description.isCanOpen(failure) ? opened : nullptr;
+}
+
+// Makes an XDD of an EDS. Returns null with the failure.
+std::shared_ptr<SOpened> openEds(const QByteArray& bytes, CXddRemark& failure)
+{
+    CEncodedText encoded;
+    CXmlTree tree;
+    CRemarks remarks;
+    const QByteArray encoding = encoded.decodePlain(bytes);
+    failure.mRule = QStringLiteral("not-a-description");
+    failure.mText = foreignText(encoded.text());
+    if (!failure.mText.isEmpty()) {
+        return nullptr;
+    }
+    if (!encoding.isEmpty()) {
+        remarks.taken(
+            {1}, QLatin1String("eds-encoding"), CRemarks::tr("the text is neither ASCII nor UTF-8 and is taken as %1"),
+            {QString::fromLatin1(encoding)});
+    }
+    CEdsReader reader(remarks);
+    if (!reader.read(encoded.text(), failure)) {
+        return nullptr;
+    }
+    encoded.setText(reader.xdd().text());
+    if (!tree.readWritten(encoded.text(), reader.xdd().lines(), failure)) {
+        return nullptr;
+    }
+    auto opened =
+        std::make_shared<SOpened>(std::move(encoded), std::move(tree), reader.isDcf() ? EForm::Dcf : EForm::Eds);
+    opened->remarks = remarks.inOrder();
+    return opened;
 }
 } // namespace
 
 CXddDocument::CXddDocument() = default;
+
+// The first character, in whatever encoding of Unicode, opens a tag.
+bool CXddDocument::isXml(const QByteArray& beginning)
+{
+    const auto first = std::find_if(beginning.begin(), beginning.end(), [](char byte) {
+        return std::strchr("\xEF\xBB\xBF\xFE\xFF \t\r\n", byte) == nullptr; // Marks and spaces; it finds NUL as well
+    });
+    return first != beginning.end() && *first == '<';
+}
 
 CXddDocument CXddDocument::open(const QByteArray& bytes, const QString& name)
 {
     CXddDocument document;
     document.mName = name;
     document.mBytes = bytes;
-    CXddRemark& failure = document.mFailure;
-    failure.mRule = QStringLiteral("not-well-formed");
-    failure.mLine = 1;
-    CEncodedText encoded;
-    CXmlTree tree;
-    if (!encoded.decode(bytes, failure.mText)) {
-        return document;
-    }
-    failure.mText = foreignText(encoded.text());
-    if (!failure.mText.isEmpty()) {
-        failure.mRule = QStringLiteral("not-a-description");
-        return document;
-    }
-    if (!tree.read(encoded.text(), failure)) {
-        return document;
-    }
-    auto opened = std::make_shared<const SOpened>(std::move(encoded), std::move(tree));
-    failure.mRule = QStringLiteral("not-a-description");
-    if (opened->description.isCanOpen(failure)) {
-        failure = CXddRemark();
-        document.mOpened = std::move(opened);
+    document.mFailure.mLine = 1;
+    document.mOpened = isXml(bytes) ? openXdd(bytes, document.mFailure) : openEds(bytes, document.mFailure);
+    if (document.isOpen()) {
+        document.mFailure = CXddRemark();
     }
     return document;
 }
@@ -112,6 +142,33 @@ bool CXddDocument::isOpen() const
 CXddRemark CXddDocument::failure() const
 {
     return mFailure;
+}
+
+CXddDocument::EForm CXddDocument::form() const
+{
+    if (!isOpen()) {
+        return FORM_NONE;
+    }
+    switch (mOpened->description.form()) {
+    case ::EForm::Eds:
+        return FORM_EDS;
+    case ::EForm::Dcf:
+        return FORM_DCF;
+    case ::EForm::Xdd:
+        break;
+    }
+    return FORM_XDD;
+}
+
+QList<CXddRemark> CXddDocument::remarks() const
+{
+    QList<CXddRemark> remarks;
+    if (isOpen()) {
+        std::copy_if(
+            mOpened->remarks.begin(), mOpened->remarks.end(), std::back_inserter(remarks),
+            [](const CXddRemark& remark) { return remark.mKind != CXddRemark::KIND_FINDING; });
+    }
+    return remarks;
 }
 
 QString CXddDocument::name() const

@@ -1,6 +1,7 @@
 #ifndef MVXXDDTOOLS_CXDDEDSWRITER_H
 #define MVXXDDTOOLS_CXDDEDSWRITER_H
 
+#include "CXddCommissioning.h"
 #include "CXddDocument.h"
 #include "CXddRemark.h"
 #include "mvxXddTools_export.h"
@@ -8,7 +9,7 @@
 #include <QByteArray>
 #include <QList>
 
-/** A description in the INI form of CiA 306 (EDS). */
+/** A description in one of the INI forms of CiA 306 (EDS, DCF). */
 class MVXXDDTOOLS_EXPORT CXddEds
 {
 public:
@@ -21,14 +22,21 @@ public:
 };
 
 /**
- * Writes descriptions for the tools that read EDS files only. The same description always gives the same bytes. The
+ * Writes descriptions for the tools that read the INI forms only. The same description always gives the same bytes. The
  * functions keep no state and may run on any thread.
  */
 class MVXXDDTOOLS_EXPORT CXddEdsWriter
 {
 public:
-    /** The INI form of a description, which has to be open. */
+    /** The EDS of a description, which has to be open. */
     static CXddEds write(const CXddDocument& document);
+
+    /** The DCF of a description, which has to be open: with actual values, denotations and what is configured for the
+     * device in its network. The node-ID has to be one; "$NODEID" stays in values. */
+    static CXddEds writeDcf(const CXddDocument& document, const CXddCommissioning& commissioning);
+
+    /** What a description, which has to be open, states of that itself. */
+    static CXddCommissioning commissioning(const CXddDocument& document);
 };
 
 #endif

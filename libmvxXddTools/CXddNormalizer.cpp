@@ -35,9 +35,14 @@ CXddCopy copyOf(const CXddDocument& document, CXmlEdits::ELayout layout)
     }
     apply({&CNormalizeRules::load()}, opened.description, edits);
     CXddCopy copy;
-    copy.mText = edits.isEmpty() ? document.bytes() : opened.encoded.encode(edits.result());
+    const bool isSame = edits.isEmpty() && document.form() == CXddDocument::FORM_XDD;
+    copy.mText = isSame ? document.bytes() : opened.encoded.encode(edits.result());
     copy.mLoads = edits.isComplete();
-    copy.mRemarks = edits.remarks();
+    CRemarks remarks;
+    for (const CXddRemark& remark : document.remarks() + edits.remarks()) {
+        remarks.add(remark);
+    }
+    copy.mRemarks = remarks.inOrder();
     return copy;
 }
 

@@ -9,15 +9,16 @@
 /** What an open document consists of. */
 struct SOpened
 {
-    SOpened(CEncodedText decoded, CXmlTree read)
+    SOpened(CEncodedText decoded, CXmlTree read, EForm form)
         : encoded(std::move(decoded))
         , tree(std::move(read))
-        , description(tree)
+        , description(tree, form)
     {}
 
-    CEncodedText encoded;
+    CEncodedText encoded; ///< The XDD, which an EDS has been made to
     CXmlTree tree;
     CDescription description;
+    QList<CXddRemark> remarks; ///< What was taken otherwise, left out or found while it was read
 };
 
 /** The parts of a document, which has to be open. */

@@ -19,7 +19,7 @@
  *
  *   == name of the case
  *   - text of the description, which stands there once
- *   + what takes its place; without such a line whole lines are taken away
+ *   + what takes its place, in which \\x1B stands for that byte; without such a line whole lines are taken away
  *   > a line of the outcome
  *
  * Changes in front of the first case are made for all cases, and belong to what they are compared with. Where a file
@@ -83,6 +83,15 @@ QString contentOf(const QString& path)
     return QString::fromUtf8(source.readAll());
 }
 
+// A text in which "\\x1B" stands for that byte.
+QByteArray withBytes(QByteArray text)
+{
+    for (auto at = text.indexOf("\\x"); at >= 0; at = text.indexOf("\\x", at + 1)) {
+        text.replace(at, 4, QByteArray::fromHex(text.mid(at + 2, 2)));
+    }
+    return text;
+}
+
 // Reads the lines of one change from that line on, and goes behind them.
 SChange readChange(const SCaseFile& file, const QStringList& lines, int& number)
 {
@@ -100,7 +109,7 @@ SChange readChange(const SCaseFile& file, const QStringList& lines, int& number)
     const QStringList after = readBlock(QLatin1Char('+'));
     change.before = before.isEmpty() ? file.replaced : before.join(QLatin1Char('\n')).toUtf8();
     change.before += isReplaced ? "" : "\n";
-    change.after = after.join(QLatin1Char('\n')).toUtf8();
+    change.after = withBytes(after.join(QLatin1Char('\n')).toUtf8());
     return change;
 }
 
@@ -249,6 +258,24 @@ QStringList loadedNormalized(const QByteArray& text)
     return lines + dump(*reader);
 }
 
+// What is said of an EDS while it is read, and what is in the records then.
+QStringList loadedEds(const QByteArray& text)
+{
+    const CXddDocument document = CXddDocument::open(text);
+    if (!document.isOpen()) {
+        return {failureOf(document)};
+    }
+    const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
+    QList<CXddRemark> remarks;
+    CXddRemark failure;
+    CXddNormalizer::load(document, *reader, remarks, failure);
+    QStringList lines = {QStringLiteral("form %1").arg(document.form())};
+    for (const CXddRemark& remark : document.remarks()) {
+        lines << QStringLiteral("%1: %2").arg(QString::number(remark.mLine), remark.mText);
+    }
+    return lines + dump(*reader);
+}
+
 QStringList checked(const QByteArray& text)
 {
     QStringList lines;
@@ -287,6 +314,7 @@ const Kinds& kinds()
         {QStringLiteral("message"), message},      {QStringLiteral("load"), loaded},
         {QStringLiteral("normalize"), normalized}, {QStringLiteral("load-normalized"), loadedNormalized},
         {QStringLiteral("check"), checked},        {QStringLiteral("eds"), converted},
+        {QStringLiteral("load-eds"), loadedEds},
     };
     return kinds;
 }
@@ -456,7 +484,7 @@ void TestCases::foundByEveryRule()
     const auto casesIn = [](const char* name) {
         return QString::fromUtf8(testData(QString::fromLatin1(name)));
     };
-    QCOMPARE(look(casesIn("check/rules.cases"), CXddChecker::rules()), QStringList());
+    QCOMPARE(look(casesIn("check/rules.cases") + casesIn("check/eds.cases"), CXddChecker::rules()), QStringList());
     QCOMPARE(look(casesIn("normalize/rules.cases"), CXddNormalizer::rules()), QStringList());
 }
 

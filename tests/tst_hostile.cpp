@@ -32,6 +32,12 @@ private Q_SLOTS:
     void toolsOnManyOfAKind_data();
     void toolsOnManyOfAKind();
     void toolsOnMutations();
+    void edsLimits_data();
+    void edsLimits();
+    void edsOfManyOfAKind_data();
+    void edsOfManyOfAKind();
+    void edsTruncatedEverywhere();
+    void edsEncodings();
     void threads();
 };
 
@@ -86,6 +92,9 @@ QString tools(const QByteArray& text)
     const CXddEds eds = CXddEdsWriter::write(document);
     if (eds.mIncomplete > eds.mEntries) {
         qFatal("More entries are incomplete than there are");
+    }
+    if (CXddEdsWriter::write(CXddDocument::open(eds.mText)).mText != eds.mText) {
+        qFatal("The EDS is another one when it is read and written");
     }
     for (const CXddRemark& remark : copy.mRemarks + eds.mLosses) {
         if (remark.mText.size() > 1500) {
@@ -421,13 +430,122 @@ void TestHostile::toolsOnManyOfAKind()
 void TestHostile::toolsOnMutations()
 {
     std::minstd_rand random(2);
-    const QByteArray base = testData(QStringLiteral("sound.xdd"));
-    for (int round = 0; round < 500; ++round) {
-        const QByteArray text = mutated(base, random);
-        const QString refusal = tools(text);
-        const QList<CXddRemark> findings = CXddChecker::check(CXddDocument::open(text));
-        QVERIFY2(refusal.isEmpty() || !findings.isEmpty(), qPrintable(refusal));
+    for (const char* const name : {"sound.xdd", "sound.eds"}) {
+        const QByteArray base = testData(QString::fromLatin1(name));
+        for (int round = 0; round < 500; ++round) {
+            const QByteArray text = mutated(base, random);
+            const QString refusal = tools(text);
+            const QList<CXddRemark> findings = CXddChecker::check(CXddDocument::open(text));
+            QVERIFY2(refusal.isEmpty() || !findings.isEmpty(), qPrintable(refusal));
+        }
     }
+}
+
+void TestHostile::edsLimits_data()
+{
+    QTest::addColumn<QByteArray>("added");
+    QTest::addColumn<QString>("refusal"); // With its line; empty for what is within the limits
+    const auto row = [](const char* name, const QByteArray& added, const char* refusal) {
+        QTest::newRow(name) << added << QString::fromLatin1(refusal);
+    };
+    const QByteArray object = "[%1]\nParameterName=x\nDataType=5\nAccessType=ro\nCompactSubObj=254\n";
+    const auto compact = [&object](int count) {
+        QByteArray objects;
+        for (int i = 0; i < count; ++i) {
+            objects += QByteArray(object).replace("%1", QByteArray::number(0x3000 + i, 16));
+        }
+        return objects;
+    };
+    row("a line", ";" + QByteArray(65535, 'x') + '\n', "");
+    row("a longer line", ";" + QByteArray(65536, 'x') + '\n', "1: a line has more than 65536 characters");
+    row("keys", "[x]\n" + numbered("k#=1\n", 100000), "");
+    row("more keys", "[x]\n" + numbered("k#=1\n", 100001), "100002: a section has more than 100000 keys");
+    row("sections", numbered("[s#]\n", 499970), "");
+    row("more sections", numbered("[s#]\n", 500001), "500001: the file has more than 500000 sections");
+    row("compact objects", compact(970), "");
+    row("more compact objects", compact(980), "4881: the file has more than 250000 objects and sub-objects");
+    row("NUL", QByteArray(1, '\0'), "1: This is a binary file.");
+}
+
+void TestHostile::edsLimits()
+{
+    QFETCH(QByteArray, added);
+    QFETCH(QString, refusal);
+    const CXddDocument document = CXddDocument::open(added + testData(QStringLiteral("sound.eds")));
+    const CXddRemark failure = document.failure();
+    QCOMPARE(document.isOpen() ? QString() : QStringLiteral("%1: %2").arg(failure.mLine).arg(failure.mText), refusal);
+}
+
+// Much of whatever is looked up, each in time that grows with it.
+void TestHostile::edsOfManyOfAKind_data()
+{
+    QTest::addColumn<QByteArray>("added");
+    const auto row = [](const char* name, const QByteArray& added) {
+        QTest::newRow(name) << added;
+    };
+    row("keys of an object", "[3000]\nParameterName=x\n" + numbered("key#=1\n", MANY / 2));
+    row("one key", "[3000]\nParameterName=x\n" + QByteArray("Unit=1\n").repeated(MANY));
+    row("one section", QByteArray("[3000]\nParameterName=x\n").repeated(MANY));
+    row("objects that are only listed", "[OptionalObjects]\n" + numbered("#0=0x3000\n", MANY / 2));
+    row("sub-sections without an object", numbered("[#00sub1]\nParameterName=x\n", MANY / 2));
+    row("lists of names", "[2100Name]\n" + numbered("#=x\n", MANY / 2));
+    row("lines that are nothing", QByteArray("x\n").repeated(MANY));
+    row("bit rates", "[DeviceInfo]\n" + numbered("BaudRate_#=1\n", MANY / 2));
+    row("dummies", "[DummyUsage]\n" + numbered("Dummy#=1\n", MANY / 2));
+}
+
+void TestHostile::edsOfManyOfAKind()
+{
+    QFETCH(QByteArray, added);
+    const QByteArray text = testData(QStringLiteral("sound.eds")) + added;
+    QCOMPARE(tools(text), QString());
+    QVERIFY(CXddChecker::check(CXddDocument::open(text)).size() < 3 * MANY);
+}
+
+void TestHostile::edsTruncatedEverywhere()
+{
+    const QByteArray text = testData(QStringLiteral("sound.eds"));
+    const int firstObject = int(text.indexOf("ParameterName=")) + int(sizeof "ParameterName=") - 1;
+    for (int size = 0; size < text.size(); ++size) {
+        const CXddDocument document = CXddDocument::open(text.left(size));
+        const bool isOpen = size >= int(text.indexOf("[MandatoryObjects]")) + int(sizeof "[MandatoryObjects]") - 1;
+        QCOMPARE(document.isOpen(), isOpen);
+        QCOMPARE(document.failure().mText.isEmpty(), isOpen);
+        if (size >= firstObject && size % 7 == 0) {
+            QCOMPARE(tools(text.left(size)), QString());
+        }
+    }
+}
+
+// In whatever encoding, the same is read; what is neither marked nor UTF-8 is reported.
+void TestHostile::edsEncodings()
+{
+    const QByteArray base = changed(testData(QStringLiteral("sound.eds")), "=Error register", "=Fehlerz\xC3\xA4hler");
+    const QString text = QString::fromUtf8(base);
+    const auto nameIn = [](const QByteArray& bytes, int remarks) {
+        const CXddDocument document = CXddDocument::open(bytes);
+        const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
+        QList<CXddRemark> all;
+        CXddRemark failure;
+        CXddNormalizer::load(document, *reader, all, failure);
+        return document.remarks().size() == remarks ? reader->getObj(0x1001).mName
+                                                    : QStringLiteral("%1 remarks").arg(document.remarks().size());
+    };
+    const QString name = QStringLiteral("Fehlerz\u00E4hler");
+    QCOMPARE(nameIn(base, 0), name);
+    QCOMPARE(nameIn("\xEF\xBB\xBF" + base, 0), name);
+    QCOMPARE(nameIn(text.toLatin1(), 1), name);
+    const QByteArray marks[] = {"\xFF\xFE", "\xFE\xFF"};
+    const QByteArray encodings[] = {"UTF-16LE", "UTF-16BE"};
+    for (std::size_t order = 0; order < 2; ++order) {
+        const QByteArray encoded = encodedAs(encodings[order], text);
+        const QByteArray unmarked = encoded.startsWith(marks[order]) ? encoded.mid(2) : encoded;
+        QCOMPARE(nameIn(marks[order] + unmarked, 0), name);
+        QCOMPARE(nameIn(unmarked, 1), name);
+    }
+    QByteArray returns = base;
+    QCOMPARE(nameIn(returns.replace('\n', '\r'), 0), name);
+    QCOMPARE(nameIn(returns.replace("\r", "\r\n"), 0), name);
 }
 
 // Readers on several threads come to the same results as on one, messages and conversions included.

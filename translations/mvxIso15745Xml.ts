@@ -459,15 +459,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>vendorID &quot;%1&quot; is not a number</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 is empty</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>vendorID is 0</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -496,14 +488,6 @@
     </message>
     <message>
         <source>%1 is %2, but the number of PDOs is %3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>granularity is 0 (fixed mappings), but every mapping can be written</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>granularity is %1, but no mapping can be written</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -567,14 +551,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>objectType %1 is not allowed for a sub-object (2 or 7 is)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>objectType %1 is not allowed for an object (2 and 5 to 9 are)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 without sub-objects</source>
         <translation type="unfinished"></translation>
     </message>
@@ -598,10 +574,6 @@
     </message>
     <message>
         <source>the default %1 is not the highest sub-index %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>subNumber is %1, but the number of sub-objects is %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -722,10 +694,6 @@
     </message>
     <message>
         <source>it maps %1 bits of %2, which is %3 with %4 bits</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>it maps %1 (line %2), whose PDOmapping is &quot;no&quot;</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -858,10 +826,6 @@
     </message>
     <message>
         <source>the data type is %1 instead of UNSIGNED8</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>dataType &quot;%1&quot; is not a data type</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1056,10 +1020,6 @@
     </message>
     <message>
         <source>This is a binary file.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>This is not XML: it begins with &quot;%1&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1270,6 +1230,370 @@
         <source>left out</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>A line of an EDS is neither a section, a key nor a comment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse the file or lose the line. Make it a comment with &quot;;&quot;, or remove it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A section of an EDS is there twice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse the file or lose one of them. Put all keys into one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A key is in its section twice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse the file or take either value. Remove one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The text of an EDS is neither ASCII nor UTF-8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse the file or show other letters. Write ASCII only.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A number of an EDS is missing, is a word, or is followed by a comment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse the file or read 0. Write the number alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AccessType is not ro, wo, rw, rwr, rww or const</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse the file or take the entry as read-only. Write one of these words.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An object is listed, but has no section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse the file. Add the section, or remove the object from its list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An object is in none of the three lists of objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools that go by the lists do not see it. Add it to its list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An object is in another list than the one for its index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools that go by the lists treat it as something else. Move it to the list for its index.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SupportedObjects is not the number of objects in its list, an object is listed twice, or there are no lists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools that go by the lists lose objects. Number the objects from 1 and state how many they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An array or record has neither SubNumber nor CompactSubObj</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse the file or take it as a variable. State the number of its sub-sections.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A sub-index in the name of a section is above FF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse the file or lose the sub-object. Sub-indexes are hexadecimal, FF is the highest.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CompactSubObj is there together with SubNumber, or without a DataType</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools do not agree on the number and type of the elements. Set SubNumber to 0 and state the type.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DummyUsage has fewer than its seven keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse the file. State Dummy0001 to Dummy0007.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lines is not the number of comment lines, or is written otherwise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools refuse the file or lose comments. Number the lines from Line1 and state how many they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RevisionNumber is not the default value of 0x1018:03</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A tool that looks a device up by its identity finds another revision. State the same at both places.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The commissioning has another name, a NodeID not from 1 to 127, or a bit rate that is not supported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools do not find what is configured, or cannot reach the device. Correct the key that is named.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not a number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is 0 (fixed mappings), but every mapping can be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is %2, but no mapping can be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no bit rate is supported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the object code %1 is not allowed for a sub-object (2 or 7 is)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the object code %1 is not allowed for an object (2 and 5 to 9 are)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is %2, but the number of sub-objects is %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it maps %1 (line %2), which must not be mapped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not a data type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the text is neither ASCII nor UTF-8 and is taken as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is left out here and wherever else it stands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AccessType &quot;%1&quot; is not one of: ro, wo, rw, rwr, rww, const</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AccessType &quot;%1&quot; is taken as %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AccessType %1 without PDOMapping is taken as rw</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not a number and is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is taken as %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not a value of %3, left as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the quotes around %1 are left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>control characters in %1 are left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a line has more than %1 characters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file has more than %1 sections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a section has more than %1 keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a section, a key nor a comment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>section [%1] duplicates line %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>key %1 is in its section already: &quot;%2&quot; is not taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file has more than %1 objects and sub-objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sub-index &quot;%1&quot; is above FF and is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>section [%1] duplicates line %2 and is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is neither XML nor an EDS: it has no sections.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is a description of another technology: EtherNet/IP and DeviceNet have a section [%1].</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is a list of nodes, which has a section [%1], not a device.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is another kind of INI file: it begins with [%1] and has no objects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left out, an XDD has no place for them: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is left out, an XDD has no place for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not %3 and is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sub-objects without a section of their object: it is a RECORD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ObjectType is missing: it is a RECORD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the sub-objects of a %1 are kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is left out, it is not a bit rate of CANopen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the commissioning is left out, it belongs into a DCF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is listed twice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is listed, but has no section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is listed in [%1], but belongs into [%2]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is %2, but the number of listed objects is %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are no lists of objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is in none of the lists of objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and %2 contradict each other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 without %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[%1] has %2 of the seven keys Dummy0001 to Dummy0007</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not the number of comment lines, which is %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is left out, %2 does not have it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 is not the default %3 of %4 (line %5)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the standard writes [%1] with one m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not a node-ID from 1 to 127</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 is not one of the supported bit rates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>section [%1] is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tools</name>
@@ -1341,13 +1665,13 @@
         <source>Written: %1. Not written: %2.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not a node-ID: these are 1 to 127.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>xdd2eds</name>
-    <message>
-        <source>Writes CANopen device descriptions in the INI form (EDS, CiA 306).</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <source>Write the EDS of the one FILE to OUT; - is standard output.</source>
         <translation type="unfinished"></translation>
@@ -1373,11 +1697,47 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Write the EDS files to DIR, named as the files with .eds.</source>
+        <source>Report every loss separately.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Report every loss separately.</source>
+        <source>%1: It states no node-ID; --dcf needs --node-id here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--node-id, --node-name and --bit-rate need --dcf.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--node-id and --node-name are those of one FILE.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a bit rate of CANopen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes CANopen device descriptions in the INI forms (EDS and DCF, CiA 306).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the EDS files to DIR, named as the files with .eds or .dcf.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write a DCF, with actual values and what is configured.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The node-ID of the DCF, unless the description states it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name of the node of the DCF.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bit rate of the DCF in kbit/s.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1785,6 +2145,10 @@
     </message>
     <message>
         <source>Report every change separately.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: --in-place does not make an XDD of an EDS. --output writes it to a file of its own, and xdd2eds writes a clean EDS.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -1,14 +1,34 @@
 #include "canopen/CDescription.h"
 
 #include "NIso15745Tags.h"
+#include "canopen/NEdsWords.h"
 #include "canopen/NFormatWords.h"
 #include "remarks/CRemarks.h"
+
+#include <algorithm>
+#include <array>
 
 using namespace NIso15745Tags;
 using namespace NFormatWords;
 
 namespace
 {
+// What the rules name, and its key in the INI form.
+const std::array<std::pair<QLatin1String, QLatin1String>, 12> KEYS = {{
+    {ATTR_NAME, NEdsWords::PARAMETER_NAME},
+    {ATTR_DATA_TYPE, NEdsWords::DATA_TYPE},
+    {ATTR_PDO_MAPPING, NEdsWords::PDO_MAPPING},
+    {ATTR_SUB_NUMBER, NEdsWords::SUB_NUMBER},
+    {TAG_VENDOR_NAME, NEdsWords::VENDOR_NAME},
+    {TAG_VENDOR_ID, NEdsWords::VENDOR_NUMBER},
+    {TAG_PRODUCT_NAME, NEdsWords::PRODUCT_NAME},
+    {TAG_PRODUCT_ID, NEdsWords::PRODUCT_NUMBER},
+    {ATTR_NR_OF_RX_PDO, NEdsWords::NR_OF_RX_PDO},
+    {ATTR_NR_OF_TX_PDO, NEdsWords::NR_OF_TX_PDO},
+    {ATTR_GRANULARITY, NEdsWords::GRANULARITY},
+    {ATTR_NODE_ID, NEdsWords::NODE_ID_KEY},
+}};
+
 // By the class that the header states, or by the type of the body where it states none.
 EProfile kindOf(const CXmlElement& header, const CXmlElement& body)
 {
@@ -47,13 +67,23 @@ void add(std::vector<CXmlElement>& elements, const CXmlElement& element)
 }
 } // namespace
 
-CDescription::CDescription(const CXmlTree& tree)
+CDescription::CDescription(const CXmlTree& tree, EForm form)
     : mTree(tree)
+    , mForm(form)
     , mReferences(tree)
     , mProfiles(profilesOf(tree.root()))
     , mDictionary(objectLists(), mReferences)
     , mPdos(pdosOf(mDictionary))
 {}
+
+QLatin1String CDescription::word(QLatin1String name) const
+{
+    const auto found =
+        std::find_if(KEYS.begin(), KEYS.end(), [name](const std::pair<QLatin1String, QLatin1String>& row) {
+            return row.first == name;
+        });
+    return mForm == EForm::Xdd || found == KEYS.end() ? name : found->second;
+}
 
 bool CDescription::isCanOpen(CXddRemark& failure) const
 {
@@ -146,6 +176,29 @@ std::vector<CXmlElement> CDescription::identities() const
         add(identities, body.child(TAG_APPLICATION_LAYERS).child(TAG_IDENTITY));
     }
     return identities;
+}
+
+// A node-ID of 0 means that none is configured.
+CXddCommissioning CDescription::commissioning() const
+{
+    const std::vector<CXmlElement> elements = managementElements(TAG_COMMISSIONING);
+    CXddCommissioning stated;
+    if (elements.empty()) {
+        return stated;
+    }
+    const CXmlElement& element = elements.front();
+    const auto number = [&element](QLatin1String name) {
+        const std::optional<CInteger> value = readInteger(element.attribute(name));
+        return value ? value->unsigned32().value_or(0) : 0;
+    };
+    const unsigned int nodeId = number(element.has(ATTR_NODE_ID) ? ATTR_NODE_ID : ATTR_NODE_ID_CAPITAL);
+    stated.mNodeId = nodeId <= MAX_NODE_ID ? nodeId : 0;
+    stated.mNodeName = element.attribute(ATTR_NODE_NAME);
+    stated.mBaudrate = bitRateOf(element.attribute(ATTR_ACTUAL_BAUD_RATE));
+    stated.mNetworkNumber = number(ATTR_NETWORK_NUMBER);
+    stated.mNetworkName = element.attribute(ATTR_NETWORK_NAME);
+    stated.mIsManager = flagOf(element.attribute(ATTR_CANOPEN_MANAGER)).value_or(false);
+    return stated;
 }
 
 std::vector<CXmlElement> CDescription::managementElements(QLatin1String name) const

@@ -1,6 +1,7 @@
 #ifndef MVXXDDTOOLS_CDESCRIPTION_H
 #define MVXXDDTOOLS_CDESCRIPTION_H
 
+#include "CXddCommissioning.h"
 #include "canopen/CDictionary.h"
 #include "canopen/CReferences.h"
 #include "canopen/Pdos.h"
@@ -26,12 +27,20 @@ struct SProfile
     CXmlElement body;
 };
 
+/** The form in which a description was written. */
+enum class EForm
+{
+    Xdd, ///< XML of ISO 15745
+    Eds, ///< INI form of CiA 306
+    Dcf  ///< INI form with what is configured
+};
+
 /** A CANopen description as CiA 301 and its format mean it: what of it stands where in the text, and what holds. */
 class CDescription
 {
 public:
-    /** Reads a text with an element at its root, which has to outlive the description. */
-    explicit CDescription(const CXmlTree& tree);
+    /** Reads a text with an element at its root, which has to outlive the description; @p form is that of the file. */
+    CDescription(const CXmlTree& tree, EForm form);
     CDescription(const CDescription&) = delete; // PDOs refer to the dictionary
     CDescription(CDescription&&) = delete;
     CDescription& operator=(const CDescription&) = delete;
@@ -39,6 +48,9 @@ public:
     ~CDescription() = default;
 
     const CXmlTree& tree() const { return mTree; }
+    EForm form() const { return mForm; }
+    /** What an attribute or element is called in the form of the file: "SubNumber" of an EDS for "subNumber". */
+    QLatin1String word(QLatin1String name) const;
     CXmlElement root() const { return mTree.root(); }
 
     /**
@@ -69,12 +81,16 @@ public:
     /** Every element with that name in the network management. */
     std::vector<CXmlElement> managementElements(QLatin1String name) const;
 
+    /** What is configured for the device in its network. */
+    CXddCommissioning commissioning() const;
+
     const CReferences& references() const { return mReferences; }
     const CDictionary& dictionary() const { return mDictionary; }
     const std::vector<SPdo>& pdos() const { return mPdos; }
 
 private:
     const CXmlTree& mTree;
+    EForm mForm;
     CReferences mReferences;
     std::vector<SProfile> mProfiles;
     CDictionary mDictionary;

@@ -1,5 +1,7 @@
 #include "canopen/DataTypes.h"
 
+#include "canopen/CValue.h"
+
 #include <algorithm>
 #include <array>
 
@@ -69,10 +71,23 @@ int bitSize(unsigned int dataType)
     return dataTypeOf(dataType).bits;
 }
 
+unsigned int dataTypeNamed(const QString& name)
+{
+    const auto found =
+        std::find_if(TYPES.begin(), TYPES.end(), [&name](const SDataType& type) { return name == type.name; });
+    return name.isEmpty() || found == TYPES.end() ? 0 : found->index;
+}
+
 unsigned int simpleType(const QString& name)
 {
     const auto found = std::find_if(TYPES.begin(), TYPES.end(), [&](const SDataType& type) {
         return name == type.processName || name == type.bitName;
     });
     return name.isEmpty() || found == TYPES.end() ? 0 : found->index;
+}
+
+QString dataTypeText(unsigned int dataType)
+{
+    const QString text = hexadecimalText(dataType, 4);
+    return dataType < 8 ? text.mid(HEXADECIMAL_PREFIX.size()) : text;
 }

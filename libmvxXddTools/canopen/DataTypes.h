@@ -55,6 +55,12 @@ EValueKind valueKind(unsigned int dataType);
 /** The size of a value of a data type in bits; 0 for one without a fixed size. */
 int bitSize(unsigned int dataType);
 
+/** The data type that CiA 301 names like that, such as 0x07 for "UNSIGNED32"; 0 for another name. */
+unsigned int dataTypeNamed(const QString& name);
+
+/** How a "dataType" is written so that the library reads it, too, which goes by the prefix: "0007", "0x0010". */
+QString dataTypeText(unsigned int dataType);
+
 /** The data type for a simple type of the application process, such as 0x07 for "UDINT"; 0 for any other element. */
 unsigned int simpleType(const QString& name);
 

@@ -35,9 +35,17 @@ const QLatin1String ATTR_BOOT_UP_SLAVE("bootUpSlave");
 const QLatin1String ATTR_DYNAMIC_CHANNELS("dynamicChannels");
 const QLatin1String ATTR_GROUP_MESSAGING("groupMessaging");
 const QLatin1String ATTR_LSS_SLAVE("layerSettingServiceSlave");
+const QLatin1String ATTR_NODE_NAME("nodeName");
+const QLatin1String ATTR_ACTUAL_BAUD_RATE("actualBaudRate");
+const QLatin1String ATTR_NETWORK_NUMBER("networkNumber");
+const QLatin1String ATTR_NETWORK_NAME("networkName");
+const QLatin1String ATTR_CANOPEN_MANAGER("CANopenManager");
 const QLatin1String ATTR_NODE_ID("nodeID");
 const QLatin1String ATTR_NODE_ID_CAPITAL("NodeID"); // As some editors write it
 
+const QLatin1String VAL_NAMESPACE("http://www.canopen.org/xml/1.0");
+const QLatin1String VAL_SCHEMA_INSTANCE("http://www.w3.org/2001/XMLSchema-instance");
+const QLatin1String VAL_SCHEMA("CANopen.xsd");
 const QLatin1String VAL_DEVICE_BODY("ProfileBody_Device_CANopen");
 const QLatin1String VAL_NETWORK_BODY("ProfileBody_CommunicationNetwork_CANopen");
 

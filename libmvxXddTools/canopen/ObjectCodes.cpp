@@ -23,3 +23,10 @@ const SObjectCode& objectCodeOf(unsigned int code)
         std::find_if(CODES.begin(), CODES.end(), [code](const SObjectCode& row) { return row.code == code; });
     return found == CODES.end() ? UNKNOWN : *found;
 }
+
+unsigned int objectCodeNamed(const QString& name)
+{
+    const auto found =
+        std::find_if(CODES.begin(), CODES.end(), [&name](const SObjectCode& row) { return row.name == name; });
+    return found == CODES.end() ? 0 : found->code;
+}

@@ -2,6 +2,7 @@
 #define MVXXDDTOOLS_OBJECTCODES_H
 
 #include <QLatin1String>
+#include <QString>
 
 /** @file
  * The object codes of CiA 301, the "objectType" of an object or sub-object.
@@ -28,5 +29,8 @@ struct SObjectCode
 
 /** An object code; one without a name that nothing can have when CiA 301 has none such. */
 const SObjectCode& objectCodeOf(unsigned int code);
+
+/** The object code that CiA 301 names like that, such as 7 for "VAR"; 0 for another name. */
+unsigned int objectCodeNamed(const QString& name);
 
 #endif

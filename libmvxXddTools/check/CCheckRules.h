@@ -16,7 +16,8 @@ class CCheckRules
     Q_DECLARE_TR_FUNCTIONS(mvxXddTools)
 
 public:
-    static const CheckRules& form();
+    static const CheckRules& form(); ///< How XML is written
+    static const CheckRules& eds();  ///< How the INI form is written
     static const CheckRules& identity();
     static const CheckRules& object();
     static const CheckRules& type();

@@ -27,7 +27,7 @@ void pdoCount(const CDescription& description, CRemarks& findings)
             if (stated && *stated != count) {
                 findings.add(
                     features, CRemarks::tr("%1 is %2, but the number of PDOs is %3"),
-                    {attribute, features.attribute(attribute), count});
+                    {description.word(attribute), features.attribute(attribute), count});
             }
         };
         compare(ATTR_NR_OF_RX_PDO, EPdoDirection::Receive);
@@ -47,9 +47,13 @@ void granularity(const CDescription& description, CRemarks& findings)
     for (const CXmlElement& features : description.managementElements(TAG_GENERAL_FEATURES)) {
         const auto stated = CXmlValue::toNumber(features.attribute(ATTR_GRANULARITY), 10);
         if (stated == 0U && writable > 0 && fixed == 0) {
-            findings.add(features, CRemarks::tr("granularity is 0 (fixed mappings), but every mapping can be written"));
+            findings.add(
+                features, CRemarks::tr("%1 is 0 (fixed mappings), but every mapping can be written"),
+                {description.word(ATTR_GRANULARITY)});
         } else if (stated.value_or(0) != 0 && writable == 0 && fixed > 0) {
-            findings.add(features, CRemarks::tr("granularity is %1, but no mapping can be written"), {*stated});
+            findings.add(
+                features, CRemarks::tr("%1 is %2, but no mapping can be written"),
+                {description.word(ATTR_GRANULARITY), *stated});
         }
     }
 }
@@ -59,6 +63,12 @@ void missingBitRate(const CDescription& description, CRemarks& findings)
     for (const CXmlElement& baudRate : description.bitRates()) {
         if (baudRate.child(TAG_SUPPORTED_BAUD_RATE).isNull()) {
             findings.add(baudRate, CRemarks::tr("<%1> is missing in <%2>"), {TAG_SUPPORTED_BAUD_RATE, TAG_BAUD_RATE});
+        }
+    }
+    // An EDS that states none has no element for it.
+    if (description.form() != EForm::Xdd && description.bitRates().empty()) {
+        for (const CXmlElement& features : description.managementElements(TAG_GENERAL_FEATURES)) {
+            findings.add(features, CRemarks::tr("no bit rate is supported"));
         }
     }
 }
@@ -79,8 +89,12 @@ void defaultBitRate(const CDescription& description, CRemarks& findings)
     }
 }
 
+// The commissioning of an EDS has a rule of its own.
 void nodeId(const CDescription& description, CRemarks& findings)
 {
+    if (description.form() != EForm::Xdd) {
+        return;
+    }
     for (const CXmlElement& commissioning : description.managementElements(TAG_COMMISSIONING)) {
         for (const QLatin1String name : {ATTR_NODE_ID, ATTR_NODE_ID_CAPITAL}) {
             const QString text = commissioning.attribute(name);

@@ -63,8 +63,8 @@ void objectType(const CDescription& description, CRemarks& findings)
         if (entry.objectCode && !isKnown) {
             findings.add(
                 entry.place(),
-                entry.isSubObject ? CRemarks::tr("objectType %1 is not allowed for a sub-object (2 or 7 is)")
-                                  : CRemarks::tr("objectType %1 is not allowed for an object (2 and 5 to 9 are)"),
+                entry.isSubObject ? CRemarks::tr("the object code %1 is not allowed for a sub-object (2 or 7 is)")
+                                  : CRemarks::tr("the object code %1 is not allowed for an object (2 and 5 to 9 are)"),
                 {entry.element.attribute(ATTR_OBJECT_TYPE)});
         }
     }
@@ -171,8 +171,8 @@ void subNumber(const CDescription& description, CRemarks& findings)
         const auto stated = CXmlValue::toNumber(text, 10);
         if (object.subObjects > 0 && stated && *stated != unsigned(object.subObjects)) {
             findings.add(
-                object, CRemarks::tr("subNumber is %1, but the number of sub-objects is %2"),
-                {text, object.subObjects});
+                object, CRemarks::tr("%1 is %2, but the number of sub-objects is %3"),
+                {description.word(ATTR_SUB_NUMBER), text, object.subObjects});
         }
     });
 }

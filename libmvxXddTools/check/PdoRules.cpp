@@ -72,7 +72,7 @@ void mappedObjectNotMappable(const CDescription& description, CRemarks& findings
     forMapped(description, [&](const SPdo&, const SPdoField& field) {
         if (field.target != nullptr && field.target->mapping == EMapping::No) {
             findings.add(
-                *field.entry, CRemarks::tr("it maps %1 (line %2), whose PDOmapping is \"no\""),
+                *field.entry, CRemarks::tr("it maps %1 (line %2), which must not be mapped"),
                 {field.name(), field.target->element.line()});
         }
     });

@@ -34,7 +34,9 @@ void missingDataType(const CDescription& description, CRemarks& findings)
             return;
         }
         if (entry.dataType.isGiven()) {
-            findings.add(entry, CRemarks::tr("dataType \"%1\" is not a data type"), {entry.dataType.text});
+            findings.add(
+                entry, CRemarks::tr("%1 \"%2\" is not a data type"),
+                {description.word(ATTR_DATA_TYPE), entry.dataType.text});
         } else {
             findings.add(entry, CRemarks::tr("VAR without a data type"));
         }

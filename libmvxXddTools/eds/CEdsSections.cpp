@@ -3,7 +3,7 @@
 namespace
 {
 // Longest line of a file, in characters.
-constexpr int MAX_LINE = 255;
+constexpr int LINE_LENGTH = 255;
 
 const QLatin1String NEWLINE("\r\n");
 } // namespace
@@ -30,7 +30,7 @@ void CEdsSections::line(const QString& name, const QString& value)
 
 SEdsText CEdsSections::text(const QString& name, const QString& value)
 {
-    SEdsText text = edsText(value, MAX_LINE - int(name.size()) - 1);
+    SEdsText text = edsText(value, LINE_LENGTH - int(name.size()) - 1);
     line(name, text.text);
     return text;
 }

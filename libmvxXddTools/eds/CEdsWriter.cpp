@@ -4,9 +4,9 @@
 #include "CXmlValue.h"
 #include "NIso15745Tags.h"
 #include "canopen/DataTypes.h"
+#include "canopen/NEdsWords.h"
 #include "canopen/NFormatWords.h"
 #include "canopen/ObjectCodes.h"
-#include "eds/NEdsWords.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -56,10 +56,10 @@ std::pair<int, int> versionOf(const QString& text)
                                                                  : std::make_pair(1, 0);
 }
 
-QString fileNameOf(const CXmlElement& body)
+QString fileNameOf(const CXmlElement& body, QLatin1String ending)
 {
     const QString baseName = QFileInfo(body.attribute(ATTR_FILE_NAME)).completeBaseName();
-    return baseName.isEmpty() ? QString() : baseName + QLatin1String(".eds");
+    return baseName.isEmpty() ? QString() : baseName + ending;
 }
 
 QString dateText(const CXmlElement& body, QLatin1String attribute)
@@ -75,14 +75,16 @@ QString timeText(const CXmlElement& body, QLatin1String attribute)
 }
 } // namespace
 
-CEdsWriter::CEdsWriter(const CDescription& description)
+CEdsWriter::CEdsWriter(const CDescription& description, const CXddCommissioning* commissioning)
     : mDescription(description)
+    , mCommissioning(commissioning)
     , mDeviceBody(description.body(EProfile::Device))
     , mNetworkBody(description.body(EProfile::Network))
 {
     chooseObjects();
     writeFileInfo();
     writeDeviceInfo();
+    writeCommissioning();
     writeDummyUsage();
     mSections.begin(COMMENTS);
     mSections.key(LINES, flagText(false));
@@ -150,7 +152,7 @@ void CEdsWriter::writeFileInfo()
     const CXmlElement label = mDeviceBody.child(TAG_DEVICE_IDENTITY).child(TAG_PRODUCT_TEXT).firstChild();
 
     mSections.begin(FILE_INFO);
-    writeText(FILE_NAME, body, fileNameOf(body));
+    writeText(FILE_NAME, body, fileNameOf(body, QLatin1String(mCommissioning == nullptr ? ".eds" : ".dcf")));
     mSections.key(FILE_VERSION, QString::number(version.first));
     mSections.key(FILE_REVISION, QString::number(version.second));
     mSections.key(EDS_VERSION, QStringLiteral("4.0"));
@@ -247,6 +249,30 @@ void CEdsWriter::writeFeatures()
     mSections.key(LSS_SUPPORTED, featureText(general, ATTR_LSS_SLAVE));
 }
 
+void CEdsWriter::writeCommissioning()
+{
+    const auto number = [](unsigned int value) {
+        return value == 0 ? QString() : QString::number(value);
+    };
+    if (mCommissioning == nullptr) {
+        for (const CXmlElement& element : mDescription.managementElements(TAG_COMMISSIONING)) {
+            if (mDescription.commissioning().mNodeId != 0) {
+                lose(
+                    element, QLatin1String("configured"),
+                    CRemarks::tr("the commissioning is left out, it belongs into a DCF"));
+            }
+        }
+        return;
+    }
+    mSections.begin(COMMISSIONING);
+    mSections.key(NODE_ID_KEY, number(mCommissioning->mNodeId));
+    writeText(NODE_NAME, mNetworkBody, mCommissioning->mNodeName);
+    mSections.key(NODE_BAUD_RATE, number(unsigned(std::max<int>(mCommissioning->mBaudrate, 0))));
+    mSections.key(NET_NUMBER, number(mCommissioning->mNetworkNumber));
+    writeText(NETWORK_NAME, mNetworkBody, mCommissioning->mNetworkName);
+    mSections.key(CANOPEN_MANAGER, flagText(mCommissioning->mIsManager));
+}
+
 // All seven keys or none: a reader refuses a part of them.
 void CEdsWriter::writeDummyUsage()
 {
@@ -310,6 +336,7 @@ void CEdsWriter::writeComposed(const SObject& object)
     mSections.key(OBJECT_TYPE, hexadecimalText(*entry.objectCode, 1));
     mSections.key(SUB_NUMBER, QString::number(object.subObjects.size()));
     writeFlags(entry);
+    writeConfigured(entry, 0);
     if (entry.defaultValue.isGiven() || entry.lowLimit.isGiven() || entry.highLimit.isGiven()) {
         lose(entry, QLatin1String("composed"), CRemarks::tr("the values of an array or record itself are left out"));
     }
@@ -334,7 +361,16 @@ void CEdsWriter::writeVariable(const SEntry& entry, unsigned int arrayType)
         writeLimits(entry, type);
     }
     writeFlags(entry);
-    if (entry.actualValue.isGiven() || !entry.element.attribute(ATTR_DENOTATION).isEmpty()) {
+    writeConfigured(entry, type);
+}
+
+void CEdsWriter::writeConfigured(const SEntry& entry, unsigned int type)
+{
+    const QString denotation = entry.element.attribute(ATTR_DENOTATION);
+    if (mCommissioning != nullptr) {
+        writeValue(entry, PARAMETER_VALUE, entry.actualValue.text, type);
+        writeText(DENOTATION, entry.element, denotation);
+    } else if (entry.actualValue.isGiven() || !denotation.isEmpty()) {
         lose(
             entry, QLatin1String("configured"),
             CRemarks::tr("actual value and denotation are left out, they belong into a DCF"));

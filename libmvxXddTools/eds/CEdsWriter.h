@@ -11,7 +11,8 @@
 class CEdsWriter
 {
 public:
-    explicit CEdsWriter(const CDescription& description);
+    /** Writes a DCF where something is configured, else an EDS. */
+    CEdsWriter(const CDescription& description, const CXddCommissioning* commissioning);
 
     QByteArray bytes() const { return mSections.bytes(); }
     /** What the form does not say, in the order of the description. */
@@ -35,6 +36,7 @@ private:
     void writeDeviceInfo();
     void writeBitRates();
     void writeFeatures();
+    void writeCommissioning();
     void writeDummyUsage();
     void writeObjectLists();
     void writeObject(const SObject& object);
@@ -48,6 +50,7 @@ private:
     void writeValue(const SEntry& entry, QLatin1String key, const QString& text, unsigned int type);
     void writeLimits(const SEntry& entry, unsigned int type);
     void writeFlags(const SEntry& entry);
+    void writeConfigured(const SEntry& entry, unsigned int type);
     void writeText(QLatin1String key, const CXmlElement& element, const QString& text);
     QString identityNumber(QLatin1String name, unsigned int subIndex) const;
     std::optional<unsigned int> identityDefault(unsigned int subIndex) const;
@@ -56,6 +59,7 @@ private:
     void loseText(const SPlace& place, const SEdsText& text);
 
     const CDescription& mDescription;
+    const CXddCommissioning* mCommissioning; // Null for an EDS
     CXmlElement mDeviceBody;
     CXmlElement mNetworkBody;
     QMap<unsigned int, SObject> mObjects;

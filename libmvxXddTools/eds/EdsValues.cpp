@@ -5,6 +5,8 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace
 {
 // The suffix of a number literal in C.
@@ -42,6 +44,31 @@ QString integerText(const CValue& value, const QString& written, unsigned int da
     }
     return value.base() == CInteger() ? QString(NODE_ID)
                                       : NODE_ID + QLatin1Char('+') + numberText(value.base(), written, isSigned);
+}
+bool isDigit(QChar character)
+{
+    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
+}
+
+bool beginsComment(QChar character)
+{
+    return character == QLatin1Char(';') || character == QLatin1Char('#');
+}
+
+// What follows a number is a comment, or other words behind a blank.
+bool isComment(QStringView behind)
+{
+    const QStringView trimmed = behind.trimmed();
+    return beginsComment(trimmed.front()) || (trimmed.size() < behind.size() && !isDigit(trimmed.front()));
+}
+
+// Two or more octal digits, the first of which is 0.
+bool isOctalNumber(QStringView digits)
+{
+    return digits.size() > 1 && digits.front() == QLatin1Char('0')
+           && std::all_of(digits.begin(), digits.end(), [](QChar character) {
+                  return character >= QLatin1Char('0') && character <= QLatin1Char('7');
+              });
 }
 } // namespace
 
@@ -94,7 +121,7 @@ SEdsText edsText(const QString& text, int length)
     const QString trimmed = result.text.trimmed();
     result.isTrimmed = result.isTrimmed || trimmed.size() != result.text.size();
     result.isCut = trimmed.size() > length;
-    result.text = trimmed.left(length);
+    result.text = trimmed.left(length).trimmed();
     if (result.text.startsWith(QLatin1Char('"'))) {
         result.text[0] = QLatin1Char('\'');
         result.isReplaced = true;
@@ -117,4 +144,100 @@ QString edsTime(const QTime& time)
         .arg(hour, 2, 10, QLatin1Char('0'))
         .arg(time.minute(), 2, 10, QLatin1Char('0'))
         .arg(time.hour() < 12 ? QLatin1String("AM") : QLatin1String("PM"));
+}
+
+bool isHexadecimal(QStringView text)
+{
+    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar character) {
+        const auto code = character.unicode();
+        return isDigit(character) || ((code | 0x20) >= 'a' && (code | 0x20) <= 'f');
+    });
+}
+
+// A leading 0 makes a number octal, unless it has digits that no octal number has.
+SEdsMeaning<unsigned int> edsNumberOf(QStringView text)
+{
+    const bool isHex = text.startsWith(HEXADECIMAL_PREFIX, Qt::CaseInsensitive);
+    const QStringView behindPrefix = text.mid(isHex ? HEXADECIMAL_PREFIX.size() : 0);
+    const auto* const end = std::find_if_not(behindPrefix.begin(), behindPrefix.end(), [isHex](QChar character) {
+        return isHex ? isHexadecimal(QStringView(&character, 1)) : isDigit(character);
+    });
+    const QStringView digits(behindPrefix.begin(), end);
+    const QStringView behind = QStringView(end, behindPrefix.end());
+    if (!behind.isEmpty() && !isComment(behind)) {
+        return {std::nullopt, false};
+    }
+    const bool isOctal = !isHex && isOctalNumber(digits);
+    bool ok = false;
+    const unsigned int number = digits.toUInt(&ok, isHex ? 16 : isOctal ? 8 : 10);
+    const bool hasUselessZero = !isHex && !isOctal && digits.size() > 1 && digits.front() == QLatin1Char('0');
+    return {ok ? std::optional<unsigned int>(number) : std::nullopt, behind.isEmpty() && !hasUselessZero};
+}
+
+SEdsMeaning<QDate> edsDateOf(QStringView text)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^(\\d{1,4})([-/.])(\\d{1,2}|[A-Za-z]{3})\\2(\\d{1,4})(?:\\s.*)?$"));
+    static const QStringList months = {QStringLiteral("jan"), QStringLiteral("feb"), QStringLiteral("mar"),
+                                       QStringLiteral("apr"), QStringLiteral("may"), QStringLiteral("jun"),
+                                       QStringLiteral("jul"), QStringLiteral("aug"), QStringLiteral("sep"),
+                                       QStringLiteral("oct"), QStringLiteral("nov"), QStringLiteral("dec")};
+    const QRegularExpressionMatch match = form.match(text.toString());
+    int month = match.captured(1).toInt();
+    int day = match.captured(3).toInt();
+    int year = match.captured(4).toInt();
+    bool isPlain = match.captured(2) == QLatin1String("-") && match.capturedLength(4) == 4;
+    if (match.capturedLength(1) > 2) {
+        isPlain = false;
+        year = match.captured(1).toInt();
+        month = match.captured(3).toInt();
+        day = match.captured(4).toInt();
+    } else if (months.contains(match.captured(3).toLower())) {
+        isPlain = false;
+        day = month;
+        month = int(months.indexOf(match.captured(3).toLower())) + 1;
+    } else if (month > 12) {
+        isPlain = false;
+        std::swap(month, day);
+    }
+    const QDate date(year < 100 ? year + 2000 : year, month, day);
+    return {match.hasMatch() && date.isValid() ? std::optional<QDate>(date) : std::nullopt, isPlain};
+}
+
+SEdsMeaning<QTime> edsTimeOf(QStringView text)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^(\\d{1,2}):(\\d{1,2})(?::(\\d{1,2}))?(\\s*)([AP]M)?$"),
+        QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = form.match(text.toString());
+    const QString half = match.captured(5).toUpper();
+    int hour = match.captured(1).toInt();
+    if (!half.isEmpty() && hour <= 12) {
+        hour = hour % 12 + (half == QLatin1String("PM") ? 12 : 0);
+    }
+    const QTime time(hour, match.captured(2).toInt(), match.captured(3).toInt());
+    const bool isPlain = !half.isEmpty() && match.captured(3).isEmpty() && match.captured(4).isEmpty();
+    return {match.hasMatch() && time.isValid() ? std::optional<QTime>(time) : std::nullopt, isPlain};
+}
+
+SEdsMeaning<QString> edsValueOf(QStringView text)
+{
+    const auto* const comment = std::find_if(text.begin(), text.end(), beginsComment);
+    QStringView value = QStringView(text.begin(), comment).trimmed();
+    const bool hasSign = value.startsWith(QLatin1Char('-')) || value.startsWith(QLatin1Char('+'));
+    const QStringView digits = value.mid(hasSign ? 1 : 0);
+    bool ok = false;
+    const quint64 number = isOctalNumber(digits) ? digits.toULongLong(&ok, 8) : 0;
+    if (ok && number != digits.toULongLong()) {
+        return {value.left(hasSign ? 1 : 0).toString() + QString::number(number), false};
+    }
+    return {value.toString(), value.size() == text.size()};
+}
+
+SEdsMeaning<QString> edsTextOf(QStringView text)
+{
+    const QLatin1Char quote('"');
+    const bool isQuoted = text.size() >= 2 && text.front() == quote && text.back() == quote
+                          && text.mid(1, text.size() - 2).indexOf(quote) < 0;
+    return {(isQuoted ? text.mid(1, text.size() - 2) : text).toString(), !isQuoted};
 }

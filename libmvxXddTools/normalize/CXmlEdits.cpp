@@ -1,31 +1,10 @@
 #include "normalize/CXmlEdits.h"
 
+#include "text/XmlText.h"
+
 #include <QStringList>
 
 #include <algorithm>
-
-namespace
-{
-// A text as the value of an attribute in double quotes.
-QString escaped(const QString& value)
-{
-    QString result;
-    for (const QChar character : value) {
-        if (character == QLatin1Char('&')) {
-            result += QLatin1String("&amp;");
-        } else if (character == QLatin1Char('<')) {
-            result += QLatin1String("&lt;");
-        } else if (character == QLatin1Char('"')) {
-            result += QLatin1String("&quot;");
-        } else if (character < QLatin1Char(' ')) {
-            result += QStringLiteral("&#%1;").arg(character.unicode());
-        } else {
-            result += character;
-        }
-    }
-    return result;
-}
-} // namespace
 
 SNewElement around(const QString& name, const SNewElement& child)
 {
@@ -235,10 +214,11 @@ void CXmlEdits::replace(SRange range, const QString& text)
 void CXmlEdits::setAttribute(const CXmlElement& element, QLatin1String name, const QString& value)
 {
     if (element.has(name)) {
-        replace(element.valueRange(name), escaped(value));
+        replace(element.valueRange(name), escapedXml(value));
     } else {
         replace(
-            {element.attributesEnd(), element.attributesEnd()}, QStringLiteral(" %1=\"%2\"").arg(name, escaped(value)));
+            {element.attributesEnd(), element.attributesEnd()},
+            QStringLiteral(" %1=\"%2\"").arg(name, escapedXml(value)));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "CXmlValue.h"
 #include "NIso15745Tags.h"
+#include "canopen/DataTypes.h"
 #include "normalize/CNormalizeRules.h"
 
 #include <climits>
@@ -62,13 +63,6 @@ void writings(const CDescription& description, CXmlEdits& edits)
         writing(entry, ATTR_ACCESS_TYPE, accessText(accessOfEntry(entry.element.attribute(ATTR_ACCESS_TYPE))), edits);
         writing(entry, ATTR_PDO_MAPPING, mappingText(entry.mapping), edits);
     }
-}
-
-// The format and the library read the digits of the first eight types alike; from then on the library needs the prefix.
-QString dataTypeText(unsigned int dataType)
-{
-    const QString text = hexadecimalText(dataType, 4);
-    return dataType < 8 ? text.mid(HEXADECIMAL_PREFIX.size()) : text;
 }
 
 // Supplies what holds for an entry because its parameter states it; what the entry states is never changed.

@@ -3,6 +3,7 @@
 #include "CCanOpenNames.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace
 {
@@ -12,19 +13,18 @@ constexpr int MAX_QUOTED_LENGTH = 200;
 // The sentence with the arguments for which `fills` holds in the places of their "%1" to "%9".
 template <typename Fills> QString replaced(const QString& sentence, CRemarks::Arguments arguments, Fills fills)
 {
+    using Size = decltype(sentence.size());
     QString text;
-    for (int i = 0; i < sentence.size(); ++i) {
-        const auto number = sentence.at(i) == QLatin1Char('%') && i + 1 < sentence.size()
-                                ? std::size_t(sentence.at(i + 1).unicode() - '1')
-                                : arguments.size();
+    Size begin = 0; // Of what is not copied yet
+    for (Size i = sentence.indexOf(QLatin1Char('%')); i >= 0; i = sentence.indexOf(QLatin1Char('%'), i + 1)) {
+        const auto number = i + 1 < sentence.size() ? std::size_t(sentence.at(i + 1).unicode() - '1') : SIZE_MAX;
         if (number < arguments.size() && fills(arguments.begin()[number])) {
+            text.append(sentence.constData() + begin, i - begin);
             text += arguments.begin()[number].shown;
-            ++i;
-        } else {
-            text += sentence.at(i);
+            begin = i + 2;
         }
     }
-    return text;
+    return text.append(sentence.constData() + begin, sentence.size() - begin);
 }
 } // namespace
 
@@ -93,12 +93,43 @@ void CRemarks::add(const CXddRemark& remark)
     mRemarks << remark;
 }
 
+void CRemarks::taken(const SPlace& place, QLatin1String rule, const QString& sentence, Arguments arguments)
+{
+    add(CXddRemark::KIND_CHANGE, place, rule, sentence, arguments);
+}
+
+void CRemarks::left(const SPlace& place, QLatin1String rule, const QString& sentence, Arguments arguments)
+{
+    add(CXddRemark::KIND_LEFT, place, rule, sentence, arguments);
+}
+
+void CRemarks::found(const SPlace& place, QLatin1String rule, const QString& sentence, Arguments arguments)
+{
+    add(CXddRemark::KIND_FINDING, place, rule, sentence, arguments);
+}
+
+void CRemarks::add(
+    CXddRemark::EKind kind, const SPlace& place, QLatin1String rule, const QString& sentence, Arguments arguments)
+{
+    CXddRemark cause;
+    cause.mKind = kind;
+    cause.mSeverity = CXddRemark::SEVERITY_WARNING;
+    cause.mRule = rule;
+    setCause(cause);
+    add(place, sentence, arguments);
+}
+
 QList<CXddRemark> CRemarks::inOrder() const
 {
     QList<CXddRemark> remarks = mRemarks;
     std::stable_sort(remarks.begin(), remarks.end(), [](const CXddRemark& left, const CXddRemark& right) {
         return left.mLine < right.mLine;
     });
+    const auto isSame = [](const CXddRemark& left, const CXddRemark& right) {
+        return left.mLine == right.mLine && left.mColumn == right.mColumn && left.mRule == right.mRule
+               && left.mText == right.mText;
+    };
+    remarks.erase(std::unique(remarks.begin(), remarks.end(), isSame), remarks.end());
     return remarks;
 }
 

@@ -59,7 +59,12 @@ public:
     /** Adds a remark that is made already. */
     void add(const CXddRemark& remark);
 
-    /** All remarks in the order of the lines. */
+    /** Something by a rule of its own: it was taken for what it means, was not taken, or is only found. */
+    void taken(const SPlace& place, QLatin1String rule, const QString& sentence, Arguments arguments = {});
+    void left(const SPlace& place, QLatin1String rule, const QString& sentence, Arguments arguments = {});
+    void found(const SPlace& place, QLatin1String rule, const QString& sentence, Arguments arguments = {});
+
+    /** All remarks in the order of the lines. Two that say the same of one place are one. */
     QList<CXddRemark> inOrder() const;
 
     /** A translated sentence with its arguments in place. */
@@ -69,6 +74,9 @@ public:
     static QString cut(const QString& text);
 
 private:
+    void add(
+        CXddRemark::EKind kind, const SPlace& place, QLatin1String rule, const QString& sentence, Arguments arguments);
+
     CXddRemark mCause;
     QList<CXddRemark> mRemarks;
 };

@@ -17,6 +17,17 @@ public:
      */
     bool decode(const QByteArray& bytes, QString& errorText);
 
+    /**
+     * Decodes the bytes of a plain text: by its byte order mark, else as UTF-8, UTF-16 or Windows-1252, as which
+     * everything can be read.
+     *
+     * @return the name of the encoding where it is neither marked nor UTF-8
+     */
+    QByteArray decodePlain(const QByteArray& bytes);
+
+    /** Takes a text as if it had been decoded from UTF-8. */
+    void setText(const QString& text);
+
     /** The bytes of a text in the encoding of the file, byte order mark included. */
     QByteArray encode(const QString& text) const { return mByteOrderMark + encoded(text, mEncoding); }
 
@@ -24,6 +35,9 @@ public:
     const QString& text() const { return mText; }
 
 private:
+    QByteArray takeMark(const QByteArray& bytes);
+    bool decodeAs(const QByteArray& encoding, const QByteArray& bytes);
+
     QByteArray mEncoding;
     QByteArray mByteOrderMark;
     QString mText;

@@ -204,6 +204,8 @@ bool CXmlElement::isEmptyTag() const
 class CXmlTree::CBuilder
 {
 public:
+    using CScanner = CMarkupScanner<char16_t, CBuilder>;
+
     static constexpr bool WANTS_ATTRIBUTES = true;
 
     explicit CBuilder(CXmlTree& tree)
@@ -211,6 +213,12 @@ public:
         , mCounted(tree.mText.constData())
         , mLineBegin(mCounted)
     {}
+
+    CScanner scanner()
+    {
+        const auto* const begin = reinterpret_cast<const char16_t*>(mTree.mText.utf16());
+        return {begin, begin + mTree.mText.size(), *this};
+    }
 
     void startTag(qsizetype begin, SMarkupRange name)
     {
@@ -335,11 +343,8 @@ bool isWellFormed(QXmlStreamReader& reader)
 bool CXmlTree::read(const QString& text, CXddRemark& failure)
 {
     mText = text;
-    mNodes.clear();
-    mAttributes.clear();
     CBuilder builder(*this);
-    const auto* const begin = reinterpret_cast<const char16_t*>(mText.utf16());
-    CMarkupScanner<char16_t, CBuilder> scanner(begin, begin + mText.size(), builder);
+    CBuilder::CScanner scanner = builder.scanner();
     const bool isInLimits = scanner.scan();
     // An error in front of a limit wins; the end that is then missing is where the text is refused.
     QXmlStreamReader reader(isInLimits ? mText : mText.left(int(scanner.sizeInFront())));
@@ -357,6 +362,22 @@ bool CXmlTree::read(const QString& text, CXddRemark& failure)
         failure.mColumn = int(reader.columnNumber());
     }
     return false;
+}
+
+bool CXmlTree::readWritten(const QString& text, const std::vector<int>& lines, CXddRemark& failure)
+{
+    mText = text;
+    CBuilder builder(*this);
+    CBuilder::CScanner scanner = builder.scanner();
+    if (!scanner.scan()) {
+        failure.mText = scanner.refusal();
+        return false;
+    }
+    for (std::size_t element = 0; element < mNodes.size(); ++element) {
+        mNodes[element].line = lines.at(element);
+        mNodes[element].column = 0;
+    }
+    return true;
 }
 
 std::vector<CXmlElement> CXmlTree::all() const

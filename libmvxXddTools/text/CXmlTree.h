@@ -90,6 +90,10 @@ public:
      */
     bool read(const QString& text, CXddRemark& failure);
 
+    /** Finds all elements of a text that a writer of XML has made, each of them, in document order, from that line of
+     * another text. Columns are not known then. Returns false, with the reason, beyond a limit. */
+    bool readWritten(const QString& text, const std::vector<int>& lines, CXddRemark& failure);
+
     /** The text itself. */
     const QString& text() const { return mText; }
 

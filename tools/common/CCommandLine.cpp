@@ -15,6 +15,8 @@ namespace
 {
 const QString HELP = QStringLiteral("help");
 const QString VERSION = QStringLiteral("version");
+const QString NODE_ID = QStringLiteral("node-id");
+constexpr unsigned int MAX_NODE_ID = 127;
 
 // What Qt says in this class, so that the catalogue of the tools has it: Qt's own may not be installed.
 [[maybe_unused]] constexpr const char* OF_QT[] = {
@@ -49,6 +51,11 @@ void CCommandLine::add(const QStringList& names, const QString& description, con
     mOptions << names;
 }
 
+void CCommandLine::addNodeId(const QString& description)
+{
+    add({NODE_ID}, description, QStringLiteral("N"));
+}
+
 std::optional<int> CCommandLine::parse(const QStringList& arguments)
 {
     if (!mParser.parse(arguments)) {
@@ -63,7 +70,17 @@ std::optional<int> CCommandLine::parse(const QStringList& arguments)
     if (files().contains(QString())) {
         return refuse(QCoreApplication::translate("tools", "A file name is empty."));
     }
+    if (isSet(NODE_ID) && (nodeId() == 0 || nodeId() > MAX_NODE_ID)) {
+        return refuse(
+            QCoreApplication::translate("tools", "\"%1\" is not a node-ID: these are 1 to 127.").arg(value(NODE_ID)));
+    }
     return std::nullopt;
+}
+
+unsigned int CCommandLine::nodeId() const
+{
+    const QString text = value(NODE_ID);
+    return text.toUInt(nullptr, text.startsWith(QLatin1String("0x"), Qt::CaseInsensitive) ? 16 : 10);
 }
 
 QStringList CCommandLine::values(const QString& option) const

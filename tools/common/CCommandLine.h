@@ -28,6 +28,9 @@ public:
     /** Adds an option; one with @p valueName takes a value. */
     void add(const QStringList& names, const QString& description, const QString& valueName = QString());
 
+    /** Adds the option for a node-ID, which parse() accepts from 1 to 127 only. */
+    void addNodeId(const QString& description);
+
     /** Understands the arguments of the program. Returns the status to end with when there is nothing more to do: help
      * or the version were asked for, or the line was refused. */
     std::optional<int> parse(const QStringList& arguments);
@@ -36,6 +39,8 @@ public:
     QString value(const QString& option) const { return isSet(option) ? mParser.value(option) : QString(); }
     /** The values of all occurrences of an option, taken apart at commas. */
     QStringList values(const QString& option) const;
+    /** The node-ID; 0 when none is given. */
+    unsigned int nodeId() const;
     QStringList files() const { return mParser.positionalArguments(); }
 
     /** Says why the command line is refused, and returns the status for that. */

@@ -1,5 +1,6 @@
 #include "CCopyCommandLine.h"
 
+#include "Descriptions.h"
 #include "Messages.h"
 
 #include <QCoreApplication>
@@ -33,7 +34,8 @@ QString SDestination::of(const QString& fileName) const
         return output;
     }
     const QFileInfo info(fileName);
-    return QDir(outputDir).filePath(suffix.isEmpty() ? info.fileName() : info.completeBaseName() + suffix);
+    const QString ending = suffix.isEmpty() && !isXmlFile(fileName) ? QStringLiteral(".xdd") : suffix;
+    return QDir(outputDir).filePath(ending.isEmpty() ? info.fileName() : info.completeBaseName() + ending);
 }
 
 CCopyCommandLine::CCopyCommandLine(const QString& description, const QString& files, const QString& suffix)
@@ -110,7 +112,8 @@ QString CCopyCommandLine::refusal(const SCopyRequest& request) const
     return QString();
 }
 
-int CCopyCommandLine::writeCopies(ECopied (*copy)(const SCopyRequest& request, const QString& fileName)) const
+int CCopyCommandLine::writeCopies(
+    const std::function<ECopied(const SCopyRequest& request, const QString& fileName)>& copy) const
 {
     const SCopyRequest asked = request();
     const QString reason = refusal(asked);

@@ -3,15 +3,17 @@
 
 #include "CCommandLine.h"
 
+#include <functional>
+
 /** Where the copies of a tool's files go to. */
 struct SDestination
 {
     QString output;    ///< A file or "-"
     QString outputDir; ///< A folder, which takes precedence
-    QString suffix;    ///< The ending of the copies in the folder, such as ".eds"; empty for that of the original
+    QString suffix;    ///< The ending of the copies in the folder, such as ".eds"; empty where they are XDDs
     bool inPlace = false;
 
-    /** The name of the copy of a file. */
+    /** The name of the copy of a file. An XDD in a folder keeps its ending. */
     QString of(const QString& fileName) const;
 };
 
@@ -36,18 +38,21 @@ enum class ECopied
 class CCopyCommandLine : public CCommandLine
 {
 public:
-    /** @p suffix is the ending of copies in a folder; empty for that of the original. */
+    /** @p suffix is the ending of copies in a folder; empty where they are XDDs. */
     CCopyCommandLine(const QString& description, const QString& files, const QString& suffix);
 
     /** Adds what all these tools take; the tool says what becomes of a file. */
     void addCopyOptions(const QString& output, const QString& outputDir, const QString& verbose, const QString& quiet);
+
+    /** Gives copies in a folder another ending. */
+    void setSuffix(const QString& suffix) { mSuffix = suffix; }
 
     /** Lets the files be changed themselves. */
     void addInPlace(const QString& description);
 
     /** Calls for each file, unless one of them cannot be written where it should be; a call that fails has said why.
      * Where only some files were written, says which. Returns the status to end with. */
-    int writeCopies(ECopied (*copy)(const SCopyRequest& request, const QString& fileName)) const;
+    int writeCopies(const std::function<ECopied(const SCopyRequest& request, const QString& fileName)>& copy) const;
 
 private:
     SCopyRequest request() const;

@@ -29,7 +29,8 @@ void installCatalogue()
 {
     const QString qtFolder = translationsFolder();
     const QString name = QStringLiteral("mvxIso15745Xml");
-    const QStringList folders = {QCoreApplication::applicationDirPath() + QLatin1String("/" CATALOGUE_FOLDER), qtFolder};
+    const QStringList folders = {
+        QCoreApplication::applicationDirPath() + QLatin1String("/" CATALOGUE_FOLDER), qtFolder};
     install(QStringLiteral("qtbase"), QLocale(), {qtFolder});
     // English has a catalogue for the plural forms of numbers.
     if (!install(name, QLocale(), folders)) {

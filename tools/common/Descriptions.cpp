@@ -4,6 +4,7 @@
 #include "Messages.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <cstdio>
 
@@ -24,4 +25,12 @@ CXddDocument openDescription(const QString& fileName)
         complainAbout(fileName, document.failure());
     }
     return document;
+}
+
+bool isXmlFile(const QString& fileName)
+{
+    constexpr qint64 beginning = 4096;
+    QFile file(fileName);
+    const bool isVisible = QFileInfo(fileName).isFile() && file.open(QIODevice::ReadOnly);
+    return !isVisible || CXddDocument::isXml(file.read(beginning));
 }

@@ -13,4 +13,7 @@ CXddDocument readDescription(const QString& fileName);
 /** Opens a file and complains where that fails. */
 CXddDocument openDescription(const QString& fileName);
 
+/** True for a file that begins as XML, or of which nothing can be seen without reading it, such as a pipe. */
+bool isXmlFile(const QString& fileName);
+
 #endif

@@ -28,6 +28,14 @@ ECopied normalizeFile(const SCopyRequest& request, const QString& fileName)
     if (!document.isOpen()) {
         return ECopied::No;
     }
+    if (request.destination.inPlace && document.form() != CXddDocument::FORM_XDD) {
+        complain(QCoreApplication::translate(
+                     "xddnormalize",
+                     "%1: --in-place does not make an XDD of an EDS. --output writes it to a file of its own, and "
+                     "xdd2eds writes a clean EDS.")
+                     .arg(fileName));
+        return ECopied::No;
+    }
     const CXddCopy copy = CXddNormalizer::normalize(document);
     if (!request.quiet) {
         reportCopy(request, fileName, copy);

@@ -1,0 +1,3 @@
+#include "CXddCommissioning.h"
+
+CXddCommissioning::CXddCommissioning() = default;
