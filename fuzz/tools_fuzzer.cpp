@@ -31,7 +31,8 @@ void requireSound(const QList<CXddRemark>& remarks, int lines)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
-    const int lines = (int(bytes.count('\n')) + 1) * 4; // UTF-32 has fewer bytes
+    // Of an INI file lone carriage returns end lines, too; UTF-32 has four bytes for one of its own.
+    const int lines = (int(bytes.count('\n') + bytes.count('\r')) + 1) * 4;
     const CXddDocument document = CXddDocument::open(bytes);
     requireSound(CXddChecker::check(document), lines);
     if (!document.isOpen()) {
@@ -46,6 +47,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const CXddEds eds = CXddEdsWriter::write(document);
     requireSound(eds.mLosses, lines);
     require(eds.mIncomplete <= eds.mEntries);
+    const CXddEds dcf = CXddEdsWriter::writeDcf(document, CXddEdsWriter::commissioning(document));
+    requireSound(dcf.mLosses, lines);
+    // What is written is read without a remark, and written again as it is.
+    const CXddDocument written = CXddDocument::open(eds.mText);
+    require(written.isOpen() && written.remarks().isEmpty() && CXddEdsWriter::write(written).mText == eds.mText);
     CXddPdos::of(document);
 
     const std::unique_ptr<ICIso15745> reader(ICIso15745::create());

@@ -184,10 +184,10 @@ void CEdsWriter::writeDeviceInfo()
     writeFeatures();
 }
 
-// The default value of an entry of the identity object, where that is a number of 32 bits.
+// The default value of an entry of the identity object that is written, where that is a number of 32 bits.
 std::optional<unsigned int> CEdsWriter::identityDefault(unsigned int subIndex) const
 {
-    const SEntry* const entry = mDescription.dictionary().subObject(0x1018, subIndex);
+    const SEntry* const entry = mObjects.value(0x1018).subObjects.value(subIndex);
     const std::optional<CInteger> number = entry == nullptr ? std::nullopt : entry->plainDefault();
     return number ? number->unsigned32() : std::nullopt;
 }
@@ -204,7 +204,7 @@ QString CEdsWriter::identityNumber(QLatin1String name, unsigned int subIndex) co
     return hexadecimalText(identityDefault(subIndex).value_or(0), 8);
 }
 
-// 100 kbit/s and automatic detection have no key; without a stated bit rate none has.
+// 100 kbit/s and automatic detection have no key; without a bit rate that has one no key is written.
 void CEdsWriter::writeBitRates()
 {
     QSet<int> supported;
@@ -213,8 +213,9 @@ void CEdsWriter::writeBitRates()
             const QString text = rate.attribute(ATTR_VALUE);
             const CNetworkCanOpenProfile::EBaudrate known = bitRateOf(text);
             const bool hasKey = std::find(BAUD_RATES.begin(), BAUD_RATES.end(), known) != BAUD_RATES.end();
-            supported << known;
-            if (!hasKey) {
+            if (hasKey) {
+                supported << known;
+            } else {
                 lose(
                     rate, QLatin1String("bit-rate"), CRemarks::tr("an EDS has no key for the bit rate \"%1\""), {text});
             }
