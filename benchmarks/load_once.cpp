@@ -1,6 +1,7 @@
 #include "Descriptions.h"
 
 #include <CXddChecker.h>
+#include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
 #include <ICIso15745.h>
 
@@ -17,9 +18,10 @@
 
 // Measures loading against parsing alone. Usage:
 //   load_once write OBJECTS FILE        writes a description
-//   load_once (floor|load|open|check) TIMES FILE
-//                                       parses it, loads it, loads it normalised, or checks it so often, for callgrind
-//                                       and for the peak of memory
+//   load_once (eds|xdd) SOURCE FILE     writes an EDS or a normalised XDD of a description
+//   load_once (floor|load|open|check|document) TIMES FILE
+//                                       parses it, loads it, loads it normalised, checks it, or only opens it so often,
+//                                       for callgrind and for the peak of memory
 //   load_once pairs TIMES FILE          does both in turn and prints the median ratio of their times
 
 namespace
@@ -54,9 +56,24 @@ void openAny(const QString& fileName)
 
 void check(const QString& fileName)
 {
-    if (CXddChecker::check(CXddDocument::openFile(fileName)).isEmpty()) {
-        qFatal("Nothing found in %s, where mandatory objects are missing", qUtf8Printable(fileName));
+    const CXddDocument document = CXddDocument::openFile(fileName);
+    CXddChecker::check(document);
+    if (!document.isOpen()) {
+        qFatal("Cannot open %s", qUtf8Printable(fileName));
     }
+}
+
+void openDocument(const QString& fileName)
+{
+    if (!CXddDocument::openFile(fileName).isOpen()) {
+        qFatal("Cannot open %s", qUtf8Printable(fileName));
+    }
+}
+
+bool writeFile(const QString& fileName, const QByteArray& text)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::WriteOnly) && file.write(text) > 0;
 }
 
 template <typename Work> qint64 nanoseconds(Work work, const QString& fileName)
@@ -82,21 +99,27 @@ double medianRatio(int times, const QString& fileName)
 int main(int argc, char* argv[])
 {
     if (argc != 4) {
-        std::fprintf(stderr, "usage: load_once (write|floor|load|open|check|pairs) NUMBER FILE\n");
+        std::fprintf(stderr, "usage: load_once (write|eds|xdd|floor|load|open|check|document|pairs) NUMBER FILE\n");
         return 2;
     }
     const QByteArray what = argv[1];
     const int number = QByteArray(argv[2]).toInt();
     const QString fileName = QString::fromLocal8Bit(argv[3]);
     if (what == "write") {
-        QFile file(fileName);
-        return file.open(QIODevice::WriteOnly) && file.write(descriptionWith(number)) > 0 ? 0 : 1;
+        return writeFile(fileName, descriptionWith(number)) ? 0 : 1;
+    }
+    if (what == "eds" || what == "xdd") {
+        const CXddDocument source = CXddDocument::openFile(QString::fromLocal8Bit(argv[2]));
+        const bool isEds = what == "eds";
+        return writeFile(fileName, isEds ? CXddEdsWriter::write(source).mText : CXddNormalizer::normalize(source).mText)
+                   ? 0
+                   : 1;
     }
     if (what == "pairs") {
         std::printf("%.3f\n", medianRatio(number, fileName));
         return 0;
     }
-    const auto work = what == "load" ? load : what == "open" ? openAny : what == "check" ? check : parse;
+    const auto work = what == "load" ? load : what == "open" ? openAny : what == "check" ? check : what == "document" ? openDocument : parse;
     for (int i = 0; i < number; ++i) {
         work(fileName);
     }

@@ -406,7 +406,7 @@ void CEdsWriter::writeAccess(const SEntry& entry)
         lose(
             entry, QLatin1String("direction"), CRemarks::tr("an EDS cannot say %1 together with PDOmapping %2"),
             {text, mappingText(entry.mapping)});
-    } else if (direction && access == EAccess::ReadWrite) {
+    } else if (direction && access == EAccess::ReadWrite && entry.objectCode != CODE_DOMAIN) {
         text = direction == EPdoDirection::Receive ? READ_WRITE_RECEIVE : READ_WRITE_TRANSMIT;
     }
     mSections.key(ACCESS_TYPE, text);
@@ -442,12 +442,13 @@ void CEdsWriter::writeValue(const SEntry& entry, QLatin1String key, const QStrin
     }
 }
 
-// A reader refuses a whole file for one low limit above the high one. Without a type of its own an element has that of
-// its array.
+// A reader refuses a whole file for one low limit above the high one, of a type that it does not know, too. Without a
+// type of its own an element has that of its array.
 void CEdsWriter::writeLimits(const SEntry& entry, unsigned int type)
 {
-    const auto read = [type](const SValueProperty& property) {
-        return property.isGiven() ? CValue::read(property.text, type) : std::nullopt;
+    const unsigned int compared = valueKind(type) == EValueKind::None ? TYPE_UNSIGNED32 : type;
+    const auto read = [compared](const SValueProperty& property) {
+        return property.isGiven() ? CValue::read(property.text, compared) : std::nullopt;
     };
     const std::optional<CValue> low = read(entry.lowLimit);
     const std::optional<CValue> high = read(entry.highLimit);

@@ -90,16 +90,13 @@ function found(object) {
     };
 }
 
-function hex(number, digits) {
-    return '0x' + number.toString(16).toUpperCase().padStart(digits, '0');
-}
-
 let failed = false;
 let compared = 0;
 const folder = fs.mkdtempSync(path.join(os.tmpdir(), 'eds-'));
-for (const file of files) {
+const forms = [[], ['--dcf', '--node-id', '5']];
+for (const [file, options] of files.flatMap((name) => forms.map((form) => [name, form]))) {
     const edsFile = path.join(folder, 'file.eds');
-    const report = run('xdd2eds', '--verbose', '-o', edsFile, file).stderr;
+    const report = run('xdd2eds', '--verbose', ...options, '-o', edsFile, file).stderr;
     const model = JSON.parse(run('xddinfo', '--json', file).stdout);
     const eds = Eds.fromFile(edsFile);
     let equal = 0;
@@ -117,20 +114,20 @@ for (const file of files) {
         }
     };
     for (const object of model.networkProfile.objects) {
-        const name = hex(object.index, 4);
+        const name = object.address;
         const loaded = eds.getEntry(object.index);
         if (object.objectType === 8 || object.objectType === 9) {
             const array = object.objectType === ARRAY ? object.dataType : 0;
             compare(name, { name: object.name, type: undefined }, loaded && { name: loaded.parameterName, type: loaded.dataType });
             for (const entry of object.subObjects) {
                 const sub = loaded?.at(entry.subIndex);
-                compare(`${name} sub-index ${entry.subIndex}`, expected(entry, array), sub && found(sub));
+                compare(entry.address, expected(entry, array), sub && found(sub));
             }
         } else {
             compare(name, expected(object, 0), loaded && found(loaded));
         }
     }
-    console.log(`${path.basename(file)}: ${equal} entries equal, ${told} as the report says`);
+    console.log(`${path.basename(file)} ${options.join(' ')}: ${equal} entries equal, ${told} as the report says`);
 }
 fs.rmSync(folder, { recursive: true });
 console.log(`${compared} entries compared`);
