@@ -119,7 +119,11 @@ int main(int argc, char* argv[])
         std::printf("%.3f\n", medianRatio(number, fileName));
         return 0;
     }
-    const auto work = what == "load" ? load : what == "open" ? openAny : what == "check" ? check : what == "document" ? openDocument : parse;
+    const auto work = what == "load"       ? load
+                      : what == "open"     ? openAny
+                      : what == "check"    ? check
+                      : what == "document" ? openDocument
+                                           : parse;
     for (int i = 0; i < number; ++i) {
         work(fileName);
     }

@@ -374,6 +374,29 @@ void TestHostile::toolsOnManyOfAKind_data()
                    })
                + "</CANopenObject>"
         << 6 * MANY;
+    for (const char* const child : {"<x/>", "<label lang='en'/>", "<allowedValues/>", "<range/>"}) {
+        const QByteArray many = QByteArray(child).repeated(MANY);
+        QTest::addRow("entries of one parameter with many %s", child)
+            << objects
+            << "<parameter uniqueID='BIG'>"
+                   + (child == QByteArray("<range/>") ? "<allowedValues>" + many + "</allowedValues>" : many)
+                   + "</parameter>" + repeated(MANY / 4, [&](int i) { return entry(0x10000 + i, "uniqueIDRef='BIG'"); })
+            << 6 * MANY;
+    }
+    for (const char* const list : {"array", "struct"}) {
+        QTest::addRow("objects of one %s", list)
+            << objects
+            << "<parameter uniqueID='BIG'><dataTypeIDRef uniqueIDRef='LIST'/></parameter><" + QByteArray(list)
+                   + " uniqueID='LIST'>" + QByteArray("<varDeclaration/>").repeated(MANY) + "</" + list + ">"
+                   + repeated(
+                       MANY / 4,
+                       [&](int i) {
+                           return "<CANopenObject index='" + QByteArray::number(0x10000 + i, 16)
+                                  + "' name='x' objectType='9' uniqueIDRef='BIG'><CANopenSubObject subIndex='01' "
+                                    "name='x' objectType='7'/></CANopenObject>\n";
+                       })
+            << 6 * MANY;
+    }
     QTest::newRow("clashes of COB-IDs") << objects << repeated(MANY / 20, [](int i) {
         const QByteArray number = QByteArray::number(i % 0x1FF + 1, 16).rightJustified(3, '0');
         return "<CANopenObject index='1" + QByteArray(i % 2 == 0 ? "8" : "A").append(number.right(2))

@@ -29,6 +29,9 @@ const std::array<std::pair<QLatin1String, QLatin1String>, 12> KEYS = {{
     {ATTR_NODE_ID, NEdsWords::NODE_ID_KEY},
 }};
 
+// As many languages a text of a dictionary has.
+constexpr int MAX_LANGUAGES = 64;
+
 // By the class that the header states, or by the type of the body where it states none.
 EProfile kindOf(const CXmlElement& header, const CXmlElement& body)
 {
@@ -58,6 +61,11 @@ CXmlElement objectListOf(const CXmlElement& body)
     return body.child(TAG_APPLICATION_LAYERS).child(TAG_CAN_OPEN_OBJECT_LIST);
 }
 
+QString textKey(const QString& dictionaryId, const QString& textId)
+{
+    return dictionaryId + QLatin1Char('\n') + textId;
+}
+
 // Adds an element that is there.
 void add(std::vector<CXmlElement>& elements, const CXmlElement& element)
 {
@@ -74,7 +82,20 @@ CDescription::CDescription(const CXmlTree& tree, EForm form)
     , mProfiles(profilesOf(tree.root()))
     , mDictionary(objectLists(), mReferences)
     , mPdos(pdosOf(mDictionary))
-{}
+{
+    for (const CXmlElement& body : bodies(EProfile::Device)) {
+        const CXmlElement list = body.child(TAG_DEVICE_FUNCTION).child(TAG_DICTIONARY_LIST);
+        for (const CXmlElement& dictionary : list.children(TAG_DICTIONARY)) {
+            for (CXmlElement text = dictionary.firstChild(); !text.isNull(); text = text.nextSibling()) {
+                QList<CXddLabel>& texts =
+                    mDictionaryTexts[textKey(dictionary.attribute(ATTR_DICT_ID), text.attribute(ATTR_TEXT_ID))];
+                if (texts.size() < MAX_LANGUAGES) {
+                    texts << CXddLabel(dictionary.attribute(ATTR_LANG), text.text());
+                }
+            }
+        }
+    }
+}
 
 QLatin1String CDescription::word(QLatin1String name) const
 {
@@ -176,6 +197,11 @@ std::vector<CXmlElement> CDescription::identities() const
         add(identities, body.child(TAG_APPLICATION_LAYERS).child(TAG_IDENTITY));
     }
     return identities;
+}
+
+QList<CXddLabel> CDescription::dictionaryTexts(const QString& dictionaryId, const QString& textId) const
+{
+    return mDictionaryTexts.value(textKey(dictionaryId, textId));
 }
 
 // A node-ID of 0 means that none is configured.

@@ -2,6 +2,7 @@
 #define MVXXDDTOOLS_CDESCRIPTION_H
 
 #include "CXddCommissioning.h"
+#include "CXddEntryTexts.h"
 #include "canopen/CDictionary.h"
 #include "canopen/CReferences.h"
 #include "canopen/Pdos.h"
@@ -84,6 +85,9 @@ public:
     /** What is configured for the device in its network. */
     CXddCommissioning commissioning() const;
 
+    /** The texts with that ID, one for each language, in a dictionary of the description. */
+    QList<CXddLabel> dictionaryTexts(const QString& dictionaryId, const QString& textId) const;
+
     const CReferences& references() const { return mReferences; }
     const CDictionary& dictionary() const { return mDictionary; }
     const std::vector<SPdo>& pdos() const { return mPdos; }
@@ -95,6 +99,7 @@ private:
     std::vector<SProfile> mProfiles;
     CDictionary mDictionary;
     std::vector<SPdo> mPdos;
+    QHash<QString, QList<CXddLabel>> mDictionaryTexts; // By the IDs of dictionary and text
 };
 
 #endif

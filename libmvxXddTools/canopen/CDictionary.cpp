@@ -41,14 +41,7 @@ SValueProperty valueOf(
 // A range of a parameter; only one is a limit, of several none is.
 CXmlElement rangeOf(const CXmlElement& parameter)
 {
-    const CXmlElement values = parameter.child(TAG_ALLOWED_VALUES);
-    const CXmlElement first = values.child(TAG_RANGE);
-    for (CXmlElement other = first.nextSibling(); !other.isNull(); other = other.nextSibling()) {
-        if (other.is(TAG_RANGE)) {
-            return {};
-        }
-    }
-    return first;
+    return parameter.child(TAG_ALLOWED_VALUES).onlyChild(TAG_RANGE);
 }
 
 // A parameter that states no access can be read. What has sub-objects has no access of its own.

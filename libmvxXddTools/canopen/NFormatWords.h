@@ -17,6 +17,13 @@ const QLatin1String TAG_ALLOWED_VALUES("allowedValues");
 const QLatin1String TAG_RANGE("range");
 const QLatin1String TAG_MIN_VALUE("minValue");
 const QLatin1String TAG_MAX_VALUE("maxValue");
+const QLatin1String TAG_VALUE("value");
+const QLatin1String TAG_ENUM("enum");
+const QLatin1String TAG_ENUM_VALUE("enumValue");
+const QLatin1String TAG_UNIT("unit");
+
+// A text dictionary of the capabilities.
+const QLatin1String TAG_DICTIONARY("dictionary");
 
 // Elements of the application layers and the network management.
 const QLatin1String TAG_DUMMY("dummy");
@@ -27,6 +34,9 @@ const QLatin1String TAG_COMMISSIONING("deviceCommissioning");
 const QLatin1String ATTR_UNIQUE_ID("uniqueID");
 const QLatin1String ATTR_ACCESS("access");
 const QLatin1String ATTR_ENTRY("entry");
+const QLatin1String ATTR_MULTIPLIER("multiplier");
+const QLatin1String ATTR_OFFSET("offset");
+const QLatin1String ATTR_UNIT_URI("unitURI");
 const QLatin1String ATTR_GRANULARITY("granularity");
 const QLatin1String ATTR_NR_OF_RX_PDO("nrOfRxPDO");
 const QLatin1String ATTR_NR_OF_TX_PDO("nrOfTxPDO");

@@ -123,25 +123,34 @@ unsigned int typeOf(const CXmlElement& declared)
     return 0;
 }
 
+// What a type list declares: the type of the elements of an array, or those of the members of a structure.
+struct SDeclared
+{
+    CXmlElement element;
+    unsigned int type;
+};
+using Declared = std::vector<SDeclared>;
+
 // Finds out whether a declared type is another one than that of a sub-object. A block of data may have any.
-bool isOtherType(unsigned int declared, const SEntry& entry)
+bool isOtherType(const SDeclared& declared, const SEntry& entry)
 {
     const unsigned int type = entry.dataType.value;
-    return declared != 0 && type != 0 && type != TYPE_DOMAIN && type != declared;
+    return declared.type != 0 && type != 0 && type != TYPE_DOMAIN && type != declared.type;
 }
 
-void otherType(const CXmlElement& declared, const SEntry& entry, CRemarks& findings)
+void otherType(const SDeclared& declared, const SEntry& entry, CRemarks& findings)
 {
     findings.add(
-        declared, CRemarks::tr("<%1> \"%2\" has the type %3, but %4 (line %5) has %6"),
-        {SArgument::word(declared.name()), declared.attribute(ATTR_NAME), CCanOpenNames::dataType(typeOf(declared)),
-         entry.place().entry(), entry.element.line(), CCanOpenNames::dataType(entry.dataType.value)});
+        declared.element, CRemarks::tr("<%1> \"%2\" has the type %3, but %4 (line %5) has %6"),
+        {SArgument::word(declared.element.name()), declared.element.attribute(ATTR_NAME),
+         CCanOpenNames::dataType(declared.type), entry.place().entry(), entry.element.line(),
+         CCanOpenNames::dataType(entry.dataType.value)});
 }
 
-void arrayConflict(const CXmlElement& declared, const std::vector<const SEntry*>& subObjects, CRemarks& findings)
+void arrayConflict(const SDeclared& declared, const std::vector<const SEntry*>& subObjects, CRemarks& findings)
 {
     const auto other = std::find_if(subObjects.begin(), subObjects.end(), [&](const SEntry* entry) {
-        return entry->subIndex != 0U && isOtherType(typeOf(declared), *entry);
+        return entry->subIndex != 0U && isOtherType(declared, *entry);
     });
     if (other != subObjects.end()) {
         otherType(declared, **other, findings);
@@ -149,12 +158,12 @@ void arrayConflict(const CXmlElement& declared, const std::vector<const SEntry*>
 }
 
 void structConflict(
-    const CXmlElement& declared, const SEntry& object, const std::vector<const SEntry*>& subObjects, CRemarks& findings)
+    const CXmlElement& structure, const Declared& members, const SEntry& object,
+    const std::vector<const SEntry*>& subObjects, CRemarks& findings)
 {
-    const std::vector<CXmlElement> members = declared.children(TAG_VAR_DECLARATION);
     if (members.size() != subObjects.size()) {
         findings.add(
-            declared.place(),
+            structure.place(),
             CRemarks::tr(
                 "the structure has %n member(s), but %1 (line %2) has another number of sub-objects: %3", nullptr,
                 int(members.size())),
@@ -162,22 +171,41 @@ void structConflict(
         return;
     }
     for (std::size_t member = 0; member < members.size(); ++member) {
-        if (isOtherType(typeOf(members[member]), *subObjects[member])) {
+        if (isOtherType(members[member], *subObjects[member])) {
             otherType(members[member], *subObjects[member], findings);
         }
     }
 }
 
+Declared declaredIn(const CXmlElement& list)
+{
+    if (list.is(TAG_ARRAY)) {
+        return {{list, typeOf(list)}};
+    }
+    Declared members;
+    for (const CXmlElement& member : list.children(TAG_VAR_DECLARATION)) {
+        members.push_back({member, typeOf(member)});
+    }
+    return members;
+}
+
+// Many objects can refer to one list.
 void typeListConflict(const CDescription& description, CRemarks& findings)
 {
+    QHash<int, Declared> known; // By where a list begins
     forObjects(description, [&](const SEntry& object) {
-        const CXmlElement declared = description.references().referredType(object.parameter);
+        const CXmlElement list = description.references().referredType(object.parameter);
         const auto subObjects = description.dictionary().subObjects(object);
-        if (declared.is(TAG_ARRAY)) {
-            arrayConflict(declared, subObjects, findings);
-        } else if (declared.is(TAG_STRUCT) && !subObjects.empty()) {
-            structConflict(declared, object, subObjects, findings);
+        if (subObjects.empty() || !(list.is(TAG_ARRAY) || list.is(TAG_STRUCT))) {
+            return;
         }
+        const int place = list.range().begin;
+        if (!known.contains(place)) {
+            known.insert(place, declaredIn(list));
+        }
+        const Declared& declared = known[place];
+        list.is(TAG_ARRAY) ? arrayConflict(declared.front(), subObjects, findings)
+                           : structConflict(list, declared, object, subObjects, findings);
     });
 }
 

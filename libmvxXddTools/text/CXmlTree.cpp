@@ -10,6 +10,9 @@
 
 namespace
 {
+// An element with more children has an index of them by their names.
+constexpr int MAX_CHILDREN_TO_SEARCH = 32;
+
 // An entity that XML predefines.
 struct SEntity
 {
@@ -131,11 +134,13 @@ CXmlElement CXmlElement::nextSibling() const
 
 CXmlElement CXmlElement::child(QLatin1String name) const
 {
-    CXmlElement found = firstChild();
-    while (!found.isNull() && !found.is(name)) {
-        found = found.nextSibling();
-    }
-    return found;
+    return isNull() ? CXmlElement() : at(mTree->namedChild(mNode, name).node);
+}
+
+CXmlElement CXmlElement::onlyChild(QLatin1String name) const
+{
+    const CXmlTree::SNamedChild found = isNull() ? CXmlTree::SNamedChild() : mTree->namedChild(mNode, name);
+    return found.isOnly ? at(found.node) : CXmlElement();
 }
 
 std::vector<CXmlElement> CXmlElement::children(QLatin1String name) const
@@ -228,6 +233,7 @@ public:
             (parent.firstChild < 0 ? parent.firstChild : mTree.mNodes[std::size_t(parent.lastChild)].nextSibling) =
                 number;
             parent.lastChild = number;
+            ++parent.children;
         }
         mTree.mNodes.emplace_back();
         SNode& node = mTree.mNodes.back();
@@ -350,6 +356,7 @@ bool CXmlTree::read(const QString& text, CXddRemark& failure)
     QXmlStreamReader reader(isInLimits ? mText : mText.left(int(scanner.sizeInFront())));
     const bool isWhole = isWellFormed(reader);
     if (isWhole && isInLimits) {
+        indexChildren();
         return true;
     }
     if (isWhole || (!isInLimits && reader.error() == QXmlStreamReader::PrematureEndOfDocumentError)) {
@@ -377,7 +384,43 @@ bool CXmlTree::readWritten(const QString& text, const std::vector<int>& lines, C
         mNodes[element].line = lines.at(element);
         mNodes[element].column = 0;
     }
+    indexChildren();
     return true;
+}
+
+// Every entry may ask one element for its children by their names.
+void CXmlTree::indexChildren()
+{
+    for (int element = 0; element < int(mNodes.size()); ++element) {
+        if (node(element).children <= MAX_CHILDREN_TO_SEARCH) {
+            continue;
+        }
+        QHash<QString, SNamedChild>& named = mNamedChildren[element];
+        for (int child = node(element).firstChild; child >= 0; child = node(child).nextSibling) {
+            SNamedChild& found = named[raw(node(child).name)];
+            found.isOnly = found.node < 0;
+            found.node = found.isOnly ? child : found.node;
+        }
+    }
+}
+
+CXmlTree::SNamedChild CXmlTree::namedChild(int element, QLatin1String name) const
+{
+    const auto indexed = mNamedChildren.constFind(element);
+    if (indexed != mNamedChildren.constEnd()) {
+        return indexed->value(name);
+    }
+    SNamedChild found;
+    for (int child = node(element).firstChild; child >= 0; child = node(child).nextSibling) {
+        if (view(node(child).name) == name) {
+            found.isOnly = found.node < 0;
+            found.node = found.isOnly ? child : found.node;
+            if (!found.isOnly) {
+                break;
+            }
+        }
+    }
+    return found;
 }
 
 std::vector<CXmlElement> CXmlTree::all() const

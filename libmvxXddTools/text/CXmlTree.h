@@ -3,6 +3,7 @@
 
 #include "remarks/CRemarks.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringView>
 
@@ -46,6 +47,8 @@ public:
     CXmlElement nextSibling() const;
     /** The first child with that name. */
     CXmlElement child(QLatin1String name) const;
+    /** The child with that name, where it is the only one; else a null element. */
+    CXmlElement onlyChild(QLatin1String name) const;
     /** Every child with that name. */
     std::vector<CXmlElement> children(QLatin1String name) const;
 
@@ -130,10 +133,21 @@ private:
         int firstAttribute = 0;
         int attributes = 0;
         int parent = -1;
+        int children = 0;
         int firstChild = -1;
         int lastChild = -1;
         int nextSibling = -1;
     };
+
+    // The first child with a name, and whether there is another.
+    struct SNamedChild
+    {
+        int node = -1;
+        bool isOnly = true;
+    };
+
+    void indexChildren();
+    SNamedChild namedChild(int element, QLatin1String name) const;
 
     QStringView view(SRange range) const { return QStringView(mText).mid(range.begin, range.end - range.begin); }
     const SNode& node(int element) const;
@@ -142,6 +156,7 @@ private:
     QString mText;
     std::vector<SNode> mNodes;
     std::vector<SAttribute> mAttributes;
+    QHash<int, QHash<QString, SNamedChild>> mNamedChildren; // Of elements with many children
 };
 
 #endif

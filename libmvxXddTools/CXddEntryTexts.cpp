@@ -1,0 +1,44 @@
+#include "CXddEntryTexts.h"
+
+#include <QStringList>
+
+namespace
+{
+// True for "de" and "de-AT", whatever its capitals.
+bool isIn(const QString& language, const QString& wanted)
+{
+    const bool isLonger = language.size() > wanted.size() && !language.at(wanted.size()).isLetterOrNumber();
+    return language.startsWith(wanted, Qt::CaseInsensitive) && (isLonger || language.size() == wanted.size());
+}
+} // namespace
+
+CXddLabel::CXddLabel() = default;
+
+CXddLabel::CXddLabel(const QString& language, const QString& text)
+    : mLanguage(language)
+    , mText(text)
+{}
+
+QString CXddLabel::chosen(const QList<CXddLabel>& labels, const QString& language)
+{
+    const auto textsIn = [&labels](const QString& wanted) {
+        QStringList texts;
+        for (const CXddLabel& label : labels) {
+            if (!label.mText.isEmpty() && (wanted.isEmpty() || isIn(label.mLanguage, wanted))) {
+                texts << label.mText;
+            }
+        }
+        return texts.join(QLatin1String("; "));
+    };
+    for (const QString& wanted : {language, QStringLiteral("en")}) {
+        const QString texts = wanted.isEmpty() ? QString() : textsIn(wanted);
+        if (!texts.isEmpty()) {
+            return texts;
+        }
+    }
+    return textsIn(QString());
+}
+
+CXddAllowedValue::CXddAllowedValue() = default;
+
+CXddEntryTexts::CXddEntryTexts() = default;

@@ -1,0 +1,55 @@
+#ifndef MVXXDDTOOLS_CXDDENTRYTEXTS_H
+#define MVXXDDTOOLS_CXDDENTRYTEXTS_H
+
+#include "mvxXddTools_export.h"
+
+#include <QList>
+#include <QString>
+
+/** A text of a description in one of its languages. */
+class MVXXDDTOOLS_EXPORT CXddLabel
+{
+public:
+    CXddLabel();
+    CXddLabel(const QString& language, const QString& text);
+
+    /** The texts in a language such as "de", else those in English, else all; several are separated by "; ". */
+    static QString chosen(const QList<CXddLabel>& labels, const QString& language);
+
+    QString mLanguage; ///< "lang", such as "en" or "de-AT"; empty where none is stated
+    QString mText;
+};
+
+/** A value that an entry may have, or a range of values. */
+class MVXXDDTOOLS_EXPORT CXddAllowedValue
+{
+public:
+    CXddAllowedValue();
+
+    /** True for one value. */
+    bool isSingle() const { return mLow == mHigh; }
+
+    QString mLow;             ///< The value as it is written, or "minValue" of a range
+    QString mHigh;            ///< The value again, or "maxValue" of a range
+    QList<CXddLabel> mLabels; ///< What it means
+};
+
+/**
+ * What a description says of an entry for people: its own texts, then those of the parameter that it refers to. The
+ * physical value of a number is (raw + mOffset) x mMultiplier.
+ */
+class MVXXDDTOOLS_EXPORT CXddEntryTexts
+{
+public:
+    CXddEntryTexts();
+
+    QList<CXddLabel> mLabels;               ///< "label" and "labelRef": what it is called
+    QList<CXddLabel> mDescriptions;         ///< "description" and "descriptionRef"
+    QList<CXddLabel> mUnits;                ///< Labels of "unit", such as "mm"
+    QString mUnitUri;                       ///< "unitURI" of "unit"
+    QString mMultiplier;                    ///< "multiplier" of the parameter; empty for 1
+    QString mOffset;                        ///< "offset" of the parameter; empty for 0
+    QList<CXddAllowedValue> mAllowedValues; ///< "allowedValues", or the values of an "enum" type
+};
+
+#endif
