@@ -1,49 +1,29 @@
 #include "CXddPdos.h"
 
-#include "CCanOpenNames.h"
 #include "SOpened.h"
+#include "canopen/PdoLayout.h"
+#include "canopen/Texts.h"
 
-namespace
+QList<CXddPdo> CXddPdos::of(const CXddDocument& document, unsigned int nodeId)
 {
-QList<CXddPdo> shown(const std::vector<SPdo>& pdos)
-{
-    QList<CXddPdo> list;
-    for (const SPdo& pdo : pdos) {
-        CXddPdo added;
-        added.mIsTransmit = pdo.direction == EPdoDirection::Transmit;
-        added.mNumber = int(pdo.number);
-        for (const SPdoField& field : pdo.fields) {
-            if (field.isActive && !field.mapsNothing()) {
-                CXddPdoField carried;
-                carried.mIndex = field.index;
-                carried.mSubIndex = field.subIndex;
-                carried.mIsSubObject = field.isSubObject();
-                carried.mBits = int(field.bits);
-                added.mFields << carried;
-            }
+    const CDescription& description = openedOf(document).description;
+    QList<CXddPdo> layout;
+    for (const SPdo& pdo : description.pdos()) {
+        layout << layoutOf(pdo, description.dictionary(), nodeId);
+        for (CXddPdoField& field : layout.last().mFields) {
+            const SEntry* const entry = description.dictionary().variable(field.mIndex, field.mSubIndex);
+            field.mTexts = entry == nullptr ? CXddEntryTexts() : textsOf(*entry, description);
         }
-        list << added;
     }
-    return list;
-}
-} // namespace
-
-CXddPdoField::CXddPdoField() = default;
-
-QString CXddPdoField::entry() const
-{
-    return CCanOpenNames::entry(mIndex, mIsSubObject ? std::optional<unsigned int>(mSubIndex) : std::nullopt);
+    return layout;
 }
 
-CXddPdo::CXddPdo() = default;
-
-QList<CXddPdo> CXddPdos::of(const CXddDocument& document)
-{
-    return shown(openedOf(document).description.pdos());
-}
-
-QList<CXddPdo> CXddPdos::of(const QMap<unsigned int, CCanOpenObject>& objects)
+QList<CXddPdo> CXddPdos::of(const QMap<unsigned int, CCanOpenObject>& objects, unsigned int nodeId)
 {
     const CDictionary dictionary(objects);
-    return shown(pdosOf(dictionary));
+    QList<CXddPdo> layout;
+    for (const SPdo& pdo : pdosOf(dictionary)) {
+        layout << layoutOf(pdo, dictionary, nodeId);
+    }
+    return layout;
 }

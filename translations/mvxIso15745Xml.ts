@@ -1594,6 +1594,46 @@
         <source>section [%1] is missing</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>no COB-ID is stated: the PDO is taken as disabled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no COB-ID is stated: the PDO is taken with the predefined CAN-ID %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>COB-ID %1 has more than 11 bits, but bit 29 is not set: it is taken as %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the CAN-ID is 0, which is that of the network management</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CAN-ID %1 is restricted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the actual COB-ID %1 is that of node-ID %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the PDO has no mapping</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no number of active entries is stated: those in front of the first empty one are taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the active entry maps nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and what follows it are left out: they are beyond %2 bits</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tools</name>

@@ -235,6 +235,13 @@ std::vector<const SEntry*> CDictionary::subObjects(const SEntry& object) const
     return found;
 }
 
+unsigned int CDictionary::typeOfVariable(const SEntry& entry) const
+{
+    const SEntry& object = objectOf(entry);
+    const bool isElement = entry.isSubObject && object.objectCode == CODE_ARRAY;
+    return entry.dataType.value != 0 || !isElement ? entry.dataType.value : object.dataType.value;
+}
+
 const SEntry* CDictionary::entryIn(const CXmlElement& element) const
 {
     const auto found =

@@ -93,6 +93,8 @@ public:
     std::vector<const SEntry*> subObjects(const SEntry& object) const;
     /** The object that an entry belongs to; an object itself. */
     const SEntry& objectOf(const SEntry& entry) const { return mEntries[entry.object]; }
+    /** The data type of an entry; that of its array for an element without one. 0 when there is none. */
+    unsigned int typeOfVariable(const SEntry& entry) const;
     /** The entry that stands in an element of the file, or null. */
     const SEntry* entryIn(const CXmlElement& element) const;
 

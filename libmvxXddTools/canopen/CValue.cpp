@@ -76,17 +76,6 @@ std::optional<CInteger> integer(const QString& text, unsigned int dataType)
     return isPattern && !hasSign ? fromPattern(*magnitude, dataType) : CInteger(isNegative, *magnitude);
 }
 
-CInteger lowest(unsigned int dataType)
-{
-    return valueKind(dataType) == EValueKind::Signed ? CInteger(true, quint64(1) << unsigned(bitSize(dataType) - 1))
-                                                     : CInteger();
-}
-
-CInteger highest(unsigned int dataType)
-{
-    const int bits = bitSize(dataType) - (valueKind(dataType) == EValueKind::Signed ? 1 : 0);
-    return {false, std::numeric_limits<quint64>::max() >> unsigned(64 - bits)};
-}
 } // namespace
 
 bool hasHexadecimalPrefix(const QString& text)
@@ -184,6 +173,18 @@ std::optional<CValue> CValue::read(const QString& text, unsigned int dataType)
 quint64 CValue::bits() const
 {
     return mInteger.isNegative() ? ~mInteger.magnitude() + 1 : mInteger.magnitude();
+}
+
+CInteger CValue::lowest(unsigned int dataType)
+{
+    return valueKind(dataType) == EValueKind::Signed ? CInteger(true, quint64(1) << unsigned(bitSize(dataType) - 1))
+                                                     : CInteger();
+}
+
+CInteger CValue::highest(unsigned int dataType)
+{
+    const int bits = bitSize(dataType) - (valueKind(dataType) == EValueKind::Signed ? 1 : 0);
+    return {false, std::numeric_limits<quint64>::max() >> unsigned(64 - bits)};
 }
 
 bool CValue::fits(unsigned int dataType) const

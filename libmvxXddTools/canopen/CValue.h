@@ -77,6 +77,13 @@ public:
     /** The whole number as 64 bits, a negative one as two's complement. */
     quint64 bits() const;
 
+    /** The real number. */
+    double real() const { return mReal; }
+
+    /** The ends of the range of an integer type. */
+    static CInteger lowest(unsigned int dataType);
+    static CInteger highest(unsigned int dataType);
+
     /** True when the value lies in the range of its type for every node-ID. */
     bool fits(unsigned int dataType) const;
 

@@ -1,39 +1,19 @@
+#include "canopen/CobIds.h"
 #include "check/CCheckRules.h"
 #include "check/Walks.h"
 
 #include <QHash>
 
 #include <algorithm>
-#include <array>
 
 namespace
 {
-// The bits of a COB-ID, CiA 301.
-constexpr quint64 NOT_VALID = quint64(1) << 31U;
-constexpr quint64 EXTENDED = quint64(1) << 29U;
-constexpr quint64 CAN_ID_11 = 0x7FF;
-constexpr quint64 CAN_ID_29 = 0x1FFFFFFF;
-
 constexpr unsigned int SYNC = 0x1005;
 constexpr unsigned int TIME = 0x1012;
 constexpr unsigned int EMCY = 0x1014;
 constexpr unsigned int FIRST_SDO_SERVER = 0x1200;
 constexpr unsigned int LAST_SDO_SERVER = 0x127F;
 constexpr unsigned int LAST_SDO = 0x12FF;
-
-// The lower CAN-IDs of the predefined connection set, to which a device adds its node-ID.
-constexpr quint64 SDO_TO_CLIENT = 0x580;
-constexpr quint64 SDO_TO_SERVER = 0x600;
-constexpr std::array<quint64, 8> PDOS = {0x180, 0x200, 0x280, 0x300, 0x380, 0x400, 0x480, 0x500};
-
-// CAN-IDs that CiA 301 keeps for other uses.
-struct SCanIds
-{
-    quint64 first;
-    quint64 last;
-};
-constexpr std::array<SCanIds, 5> RESTRICTED = {
-    {{0x000, 0x07F}, {0x101, 0x180}, {0x581, 0x5FF}, {0x601, 0x67F}, {0x6E0, 0x7FF}}};
 
 bool isSdo(const SEntry& entry)
 {
@@ -54,7 +34,7 @@ bool isSingle(const SEntry& entry)
 
 bool isValid(const CValue& value)
 {
-    return (value.bits() & NOT_VALID) == 0;
+    return (value.bits() & COB_ID_NOT_VALID) == 0;
 }
 
 // True for a predefined CAN-ID that lacks the node-ID.
@@ -63,10 +43,11 @@ bool lacksNodeId(const SEntry& entry, const CValue& value)
     if (value.usesNodeId()) {
         return false;
     }
-    const bool isPredefined = isPdo(entry)
-                                  ? std::find(PDOS.begin(), PDOS.end(), value.bits()) != PDOS.end()
-                                  : isSdo(entry) && (value.bits() == SDO_TO_CLIENT || value.bits() == SDO_TO_SERVER);
-    return isPredefined;
+    const quint64 step = value.bits() % PDO_CAN_ID_STEP;
+    const bool isPdoBase = value.bits() >= FIRST_TRANSMIT_CAN_ID && value.bits() < SDO_TO_CLIENT
+                           && (step == FIRST_TRANSMIT_CAN_ID % PDO_CAN_ID_STEP || step == 0);
+    const bool isSdoBase = value.bits() == SDO_TO_CLIENT || value.bits() == SDO_TO_SERVER;
+    return (isPdo(entry) && isPdoBase) || (isSdo(entry) && isSdoBase);
 }
 
 // True when one of the CAN-IDs that a value stands for is restricted.
@@ -75,15 +56,13 @@ bool isRestricted(const CValue& value)
     const quint64 base = value.bits() & CAN_ID_11;
     const quint64 first = value.usesNodeId() ? base + MIN_NODE_ID : base;
     const quint64 last = value.usesNodeId() ? base + MAX_NODE_ID : base;
-    return std::any_of(RESTRICTED.begin(), RESTRICTED.end(), [&](const SCanIds& range) {
-        return first <= range.last && last >= range.first;
-    });
+    return hasRestrictedCanId(first, last);
 }
 
 // What is wrong with a COB-ID; nothing when it can be used. SDOs are at CAN-IDs that others must not use.
 QString faultOf(const SEntry& entry, const CValue& value)
 {
-    const bool isCanId11 = isValid(value) && (value.bits() & EXTENDED) == 0;
+    const bool isCanId11 = isValid(value) && (value.bits() & COB_ID_EXTENDED) == 0;
     if (isSdo(entry)) {
         return lacksNodeId(entry, value) ? CRemarks::tr("COB-ID %1 lacks $NODEID") : QString();
     }
@@ -118,12 +97,11 @@ std::optional<quint64> producedWith(const SEntry& entry)
     if (!value || !value->isInteger() || !isValid(*value)) {
         return std::nullopt;
     }
-    const quint64 bits = value->bits();
-    const quint64 canId = bits & ((bits & EXTENDED) != 0 ? CAN_ID_29 : CAN_ID_11);
+    const quint64 canId = canIdOf(value->bits());
     if (canId == 0) {
         return std::nullopt;
     }
-    return canId | (bits & EXTENDED) | (value->usesNodeId() ? NOT_VALID : 0);
+    return canId | (value->bits() & COB_ID_EXTENDED) | (value->usesNodeId() ? COB_ID_NOT_VALID : 0);
 }
 
 // The COB-ID entries of all that a device sends with, in document order: SDO servers, the emergency message, and TPDOs

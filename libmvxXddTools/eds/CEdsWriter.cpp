@@ -318,14 +318,13 @@ void CEdsWriter::writeObject(const SObject& object)
 {
     mSections.begin(sectionOf(*object.entry));
     if (!object.entry->isArrayOrRecord()) {
-        writeVariable(*object.entry, 0);
+        writeVariable(*object.entry);
         return;
     }
     writeComposed(object);
-    const unsigned int arrayType = object.entry->objectCode == CODE_ARRAY ? object.entry->dataType.value : 0;
     for (const SEntry* const entry : object.subObjects) {
         mSections.begin(sectionOf(*entry));
-        writeVariable(*entry, arrayType);
+        writeVariable(*entry);
     }
 }
 
@@ -343,10 +342,10 @@ void CEdsWriter::writeComposed(const SObject& object)
     }
 }
 
-void CEdsWriter::writeVariable(const SEntry& entry, unsigned int arrayType)
+void CEdsWriter::writeVariable(const SEntry& entry)
 {
     const bool isBlock = entry.objectCode == CODE_DOMAIN;
-    const unsigned int stated = entry.dataType.value != 0 ? entry.dataType.value : arrayType;
+    const unsigned int stated = mDescription.dictionary().typeOfVariable(entry);
     const unsigned int type = stated != 0 ? stated : TYPE_DOMAIN;
     writeName(entry);
     mSections.key(OBJECT_TYPE, hexadecimalText(isBlock ? CODE_DOMAIN : CODE_VAR, 1));

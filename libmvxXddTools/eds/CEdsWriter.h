@@ -41,7 +41,7 @@ private:
     void writeObjectLists();
     void writeObject(const SObject& object);
     void writeComposed(const SObject& object);
-    void writeVariable(const SEntry& entry, unsigned int arrayType);
+    void writeVariable(const SEntry& entry);
 
     void writeName(const SEntry& entry);
     void writeDataType(const SEntry& entry, unsigned int type);

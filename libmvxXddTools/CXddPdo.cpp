@@ -1,0 +1,84 @@
+#include "CXddPdo.h"
+
+#include "CCanOpenNames.h"
+
+#include <QCoreApplication>
+
+CXddPdoField::CXddPdoField() = default;
+
+QString CXddPdoField::entry() const
+{
+    return CCanOpenNames::entry(mIndex, mIsSubObject ? std::optional<unsigned int>(mSubIndex) : std::nullopt);
+}
+
+CXddPdo::CXddPdo() = default;
+
+QString CXddPdo::name() const
+{
+    return QLatin1String(mIsTransmit ? "TPDO" : "RPDO") + QString::number(mNumber);
+}
+
+unsigned int CXddPdo::communicationIndex() const
+{
+    return (mIsTransmit ? 0x1800U : 0x1400U) + unsigned(mNumber) - 1;
+}
+
+QString CXddPdo::transmissionText() const
+{
+    const auto tr = [](const char* text) {
+        return QCoreApplication::translate("mvxXddTools", text);
+    };
+    switch (mTransmission) {
+    case TRANSMISSION_NOT_STATED:
+        break;
+    case TRANSMISSION_ACYCLIC:
+        return mIsTransmit ? tr(QT_TRANSLATE_NOOP("mvxXddTools", "with the SYNC after an event"))
+                           : tr(QT_TRANSLATE_NOOP("mvxXddTools", "with the next SYNC"));
+    case TRANSMISSION_CYCLIC:
+        return !mIsTransmit ? tr(QT_TRANSLATE_NOOP("mvxXddTools", "with the next SYNC"))
+               : mTransmissionType == 1U
+                   ? tr(QT_TRANSLATE_NOOP("mvxXddTools", "with every SYNC"))
+                   : tr(QT_TRANSLATE_NOOP("mvxXddTools", "once every %1 SYNCs")).arg(*mTransmissionType);
+    case TRANSMISSION_RESERVED:
+        return tr(QT_TRANSLATE_NOOP("mvxXddTools", "reserved"));
+    case TRANSMISSION_REQUEST_SYNC:
+        return tr(QT_TRANSLATE_NOOP("mvxXddTools", "on request, sampled with the SYNC"));
+    case TRANSMISSION_REQUEST:
+        return tr(QT_TRANSLATE_NOOP("mvxXddTools", "on request"));
+    case TRANSMISSION_EVENT_MANUFACTURER:
+        return tr(QT_TRANSLATE_NOOP("mvxXddTools", "on an event of the manufacturer"));
+    case TRANSMISSION_EVENT_PROFILE:
+        return tr(QT_TRANSLATE_NOOP("mvxXddTools", "on an event of the device profile"));
+    }
+    return QString();
+}
+
+QString CXddPdo::transmissionAsStr(ETransmission transmission)
+{
+    switch (transmission) {
+    case TRANSMISSION_NOT_STATED:
+        break;
+    case TRANSMISSION_ACYCLIC:
+        return QStringLiteral("acyclic");
+    case TRANSMISSION_CYCLIC:
+        return QStringLiteral("cyclic");
+    case TRANSMISSION_RESERVED:
+        return QStringLiteral("reserved");
+    case TRANSMISSION_REQUEST_SYNC:
+        return QStringLiteral("request-sync");
+    case TRANSMISSION_REQUEST:
+        return QStringLiteral("request");
+    case TRANSMISSION_EVENT_MANUFACTURER:
+        return QStringLiteral("event-manufacturer");
+    case TRANSMISSION_EVENT_PROFILE:
+        return QStringLiteral("event-profile");
+    }
+    return QString();
+}
+
+int CXddPdo::bytes() const
+{
+    constexpr int bitsOfByte = 8;
+    const int bits = mFields.isEmpty() ? 0 : mFields.last().mOffset + mFields.last().mBits;
+    return mIsMultiplexed ? 8 : (bits + bitsOfByte - 1) / bitsOfByte;
+}

@@ -1,0 +1,98 @@
+#ifndef MVXXDDTOOLS_CXDDPDO_H
+#define MVXXDDTOOLS_CXDDPDO_H
+
+#include "CXddEntryTexts.h"
+#include "CXddRemark.h"
+#include "mvxXddTools_export.h"
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+/** What a PDO carries at one place of its data. */
+class MVXXDDTOOLS_EXPORT CXddPdoField
+{
+public:
+    /** How the bits are to be read. */
+    enum EKind : int
+    {
+        KIND_UNSIGNED = 0, ///< A number without a sign, a boolean included
+        KIND_SIGNED = 1,   ///< Two's complement
+        KIND_REAL = 2,     ///< IEEE 754: REAL32 with 32 bits, REAL64 with 64
+        KIND_BYTES = 3,    ///< Characters, octets, a block of data or a time
+        KIND_DUMMY = 4,    ///< Only takes room: the index is that of a data type
+        KIND_UNKNOWN = 5   ///< The dictionary does not describe the entry, or not its type
+    };
+
+    CXddPdoField();
+
+    /** The entry that it carries, such as "0x6041" or "0x6200:01"; a data type such as "0x0005" for a dummy. */
+    QString entry() const;
+
+    unsigned int mIndex = 0;    ///< Index of the object
+    unsigned int mSubIndex = 0; ///< Sub-index; 0 for an object without sub-objects
+    bool mIsSubObject = false;  ///< The entry is a sub-object
+    QString mName;              ///< Name of the entry
+    QString mObjectName;        ///< Name of its object; the same for an object without sub-objects
+    unsigned int mDataType = 0; ///< Data type; that of the array for an element without one; 0 when it is not known
+    EKind mKind = KIND_UNKNOWN; ///< How the bits are to be read
+    int mOffset = 0;            ///< Bits in front of it; the lowest bit of byte 0 is bit 0
+    int mBits = 0;              ///< Length in bits, as the mapping states it
+    QString mMinimum;           ///< Lowest raw value in decimal; empty where the description limits none
+    QString mMaximum;           ///< Highest raw value likewise
+    CXddEntryTexts mTexts;      ///< Unit, factor and labels of values; only from a description
+};
+
+/** A process data object of a device. */
+class MVXXDDTOOLS_EXPORT CXddPdo
+{
+public:
+    /** When a PDO is sent or, for one that is received, takes effect. */
+    enum ETransmission : int
+    {
+        TRANSMISSION_NOT_STATED = 0,
+        TRANSMISSION_ACYCLIC = 1,            ///< 0: with the SYNC after an event
+        TRANSMISSION_CYCLIC = 2,             ///< 1 to 240: with every n-th SYNC
+        TRANSMISSION_RESERVED = 3,           ///< 241 to 251
+        TRANSMISSION_REQUEST_SYNC = 4,       ///< 252: sampled with the SYNC, sent on request
+        TRANSMISSION_REQUEST = 5,            ///< 253: on request
+        TRANSMISSION_EVENT_MANUFACTURER = 6, ///< 254: on an event, or its timer, as the manufacturer says
+        TRANSMISSION_EVENT_PROFILE = 7       ///< 255: on an event, or its timer, as the device profile says
+    };
+
+    CXddPdo();
+
+    /** "TPDO1" or "RPDO512" */
+    QString name() const;
+    /** Index of its communication parameters, 0x1400 to 0x15FF or 0x1800 to 0x19FF. */
+    unsigned int communicationIndex() const;
+    /** Index of its mapping, 0x200 above. */
+    unsigned int mappingIndex() const { return communicationIndex() + 0x200; }
+    /** The transmission type in words, in the language of the program. */
+    QString transmissionText() const;
+    /** The same in one word: "acyclic", "cyclic", "reserved", "request-sync", "request", "event-manufacturer",
+     * "event-profile"; nothing for TRANSMISSION_NOT_STATED. */
+    static QString transmissionAsStr(ETransmission transmission);
+    /** Length of its data, in bytes: all that it carries, dummies included; 8 for a multiplexed one. */
+    int bytes() const;
+
+    bool mIsTransmit = false;       ///< The device sends it
+    int mNumber = 0;                ///< From 1 to 512
+    bool mHasCommunication = false; ///< The dictionary has its communication parameters
+    bool mHasMapping = false;       ///< The dictionary has its mapping
+    bool mIsEnabled = false;        ///< Bit 31 of the COB-ID is not set
+    unsigned int mCanId = 0;        ///< 11 or 29 bits; 0 where none is known. Without a node-ID that of node-ID 0
+    bool mIsExtended = false;       ///< The CAN-ID has 29 bits
+    bool mUsesNodeId = false;       ///< The CAN-ID depends on the node-ID
+    bool mIsMultiplexed = false;    ///< Its data name the entry that they carry
+    std::optional<unsigned int> mTransmissionType; ///< Sub-index 2
+    ETransmission mTransmission = TRANSMISSION_NOT_STATED;
+    unsigned int mInhibitTime = 0; ///< Shortest time between two, in microseconds; 0 for none
+    unsigned int mEventTimer = 0;  ///< Longest time between two, in milliseconds; 0 for none. A deadline where received
+    unsigned int mSyncStart = 0;   ///< Value of the SYNC counter with which it begins; 0 for any
+    QList<CXddPdoField> mFields;   ///< What it carries, in order
+    QList<CXddRemark> mRemarks;    ///< What was left out or taken otherwise, and what is doubtful
+};
+
+#endif
