@@ -1,4 +1,5 @@
 #include <CXddChecker.h>
+#include <CXddDbcWriter.h>
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
 #include <CXddPdos.h>
@@ -8,8 +9,8 @@
 #include <cstdint>
 #include <memory>
 
-// Opens arbitrary bytes, and normalises, loads, checks and converts what they describe. Any file given on the command
-// line is taken once, without fuzzing.
+// Opens arbitrary bytes, and normalises, loads, checks and converts what they describe to every form. Any file given on
+// the command line is taken once, without fuzzing.
 
 namespace
 {
@@ -53,6 +54,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const CXddDocument written = CXddDocument::open(eds.mText);
     require(written.isOpen() && written.remarks().isEmpty() && CXddEdsWriter::write(written).mText == eds.mText);
     CXddPdos::of(document);
+    const CXddDbc dbc = CXddDbcWriter::write({CXddNode(document, 5)}, CXddDbcWriter::OPTION_ALL);
+    requireSound(dbc.mRemarks.value(0), lines);
+    for (const char character : dbc.mText) {
+        require(character == '\n' || (character >= ' ' && character <= '~'));
+    }
 
     const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
     QList<CXddRemark> remarks;

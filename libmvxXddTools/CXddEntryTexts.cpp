@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+#include <numeric>
+
 namespace
 {
 // True for "de" and "de-AT", whatever its capitals.
@@ -42,3 +44,19 @@ QString CXddLabel::chosen(const QList<CXddLabel>& labels, const QString& languag
 CXddAllowedValue::CXddAllowedValue() = default;
 
 CXddEntryTexts::CXddEntryTexts() = default;
+
+int CXddEntryTexts::characters() const
+{
+    const auto sum = [](const QList<CXddLabel>& labels) {
+        const auto add = [](int length, const CXddLabel& label) {
+            return length + int(label.mText.size());
+        };
+        return std::accumulate(labels.begin(), labels.end(), 0, add);
+    };
+    int length = sum(mLabels) + sum(mDescriptions) + sum(mUnits);
+    length += int(mUnitUri.size() + mMultiplier.size() + mOffset.size());
+    for (const CXddAllowedValue& value : mAllowedValues) {
+        length += int(value.mLow.size() + value.mHigh.size()) + sum(value.mLabels);
+    }
+    return length;
+}

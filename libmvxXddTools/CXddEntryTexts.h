@@ -43,6 +43,13 @@ class MVXXDDTOOLS_EXPORT CXddEntryTexts
 public:
     CXddEntryTexts();
 
+    /** True when nothing is said. */
+    bool isEmpty() const { return characters() == 0; }
+
+    /** How long all texts are together. Many entries can refer to one parameter, so that what is written of all of
+     * them may be far longer than the description. */
+    int characters() const;
+
     QList<CXddLabel> mLabels;               ///< "label" and "labelRef": what it is called
     QList<CXddLabel> mDescriptions;         ///< "description" and "descriptionRef"
     QList<CXddLabel> mUnits;                ///< Labels of "unit", such as "mm"

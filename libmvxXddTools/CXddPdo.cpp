@@ -1,6 +1,7 @@
 #include "CXddPdo.h"
 
 #include "CCanOpenNames.h"
+#include "canopen/CValue.h"
 
 #include <QCoreApplication>
 
@@ -9,6 +10,16 @@ CXddPdoField::CXddPdoField() = default;
 QString CXddPdoField::entry() const
 {
     return CCanOpenNames::entry(mIndex, mIsSubObject ? std::optional<unsigned int>(mSubIndex) : std::nullopt);
+}
+
+QString CXddPdoField::fullName() const
+{
+    return mName == mObjectName || mObjectName.isEmpty() ? mName : mObjectName + QLatin1String(": ") + mName;
+}
+
+QString CXddPdoField::rangeText() const
+{
+    return mMinimum.isEmpty() ? QString() : mMinimum + QLatin1String("..") + mMaximum;
 }
 
 CXddPdo::CXddPdo() = default;
@@ -21,6 +32,12 @@ QString CXddPdo::name() const
 unsigned int CXddPdo::communicationIndex() const
 {
     return (mIsTransmit ? 0x1800U : 0x1400U) + unsigned(mNumber) - 1;
+}
+
+QString CXddPdo::canIdText() const
+{
+    const QString canId = hexadecimalText(mCanId, mIsExtended ? 8 : 3);
+    return mNodeId == 0 && mUsesNodeId ? QCoreApplication::translate("mvxXddTools", "%1+node-ID").arg(canId) : canId;
 }
 
 QString CXddPdo::transmissionText() const

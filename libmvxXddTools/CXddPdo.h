@@ -30,6 +30,12 @@ public:
     /** The entry that it carries, such as "0x6041" or "0x6200:01"; a data type such as "0x0005" for a dummy. */
     QString entry() const;
 
+    /** Its name behind that of its object, "Identity: Vendor-ID"; one of them where they are the same. */
+    QString fullName() const;
+
+    /** "0..100"; nothing where the description limits none. */
+    QString rangeText() const;
+
     unsigned int mIndex = 0;    ///< Index of the object
     unsigned int mSubIndex = 0; ///< Sub-index; 0 for an object without sub-objects
     bool mIsSubObject = false;  ///< The entry is a sub-object
@@ -69,6 +75,9 @@ public:
     unsigned int communicationIndex() const;
     /** Index of its mapping, 0x200 above. */
     unsigned int mappingIndex() const { return communicationIndex() + 0x200; }
+    /** "0x185", with eight digits where it is extended; "0x180+node-ID", in the language of the program, where it
+     * depends on a node-ID that is not known. */
+    QString canIdText() const;
     /** The transmission type in words, in the language of the program. */
     QString transmissionText() const;
     /** The same in one word: "acyclic", "cyclic", "reserved", "request-sync", "request", "event-manufacturer",
@@ -84,7 +93,9 @@ public:
     bool mIsEnabled = false;        ///< Bit 31 of the COB-ID is not set
     unsigned int mCanId = 0;        ///< 11 or 29 bits; 0 where none is known. Without a node-ID that of node-ID 0
     bool mIsExtended = false;       ///< The CAN-ID has 29 bits
+    unsigned int mNodeId = 0;       ///< The node-ID that the CAN-ID is that of; 0 where none is known
     bool mUsesNodeId = false;       ///< The CAN-ID depends on the node-ID
+    bool mAllowsRtr = false;        ///< It is sent on a remote request: bit 30 of the COB-ID is not set
     bool mIsMultiplexed = false;    ///< Its data name the entry that they carry
     std::optional<unsigned int> mTransmissionType; ///< Sub-index 2
     ETransmission mTransmission = TRANSMISSION_NOT_STATED;

@@ -2,20 +2,10 @@
 
 #include "SOpened.h"
 #include "canopen/PdoLayout.h"
-#include "canopen/Texts.h"
 
 QList<CXddPdo> CXddPdos::of(const CXddDocument& document, unsigned int nodeId)
 {
-    const CDescription& description = openedOf(document).description;
-    QList<CXddPdo> layout;
-    for (const SPdo& pdo : description.pdos()) {
-        layout << layoutOf(pdo, description.dictionary(), nodeId);
-        for (CXddPdoField& field : layout.last().mFields) {
-            const SEntry* const entry = description.dictionary().variable(field.mIndex, field.mSubIndex);
-            field.mTexts = entry == nullptr ? CXddEntryTexts() : textsOf(*entry, description);
-        }
-    }
-    return layout;
+    return layoutsOf(openedOf(document).description, nodeId);
 }
 
 QList<CXddPdo> CXddPdos::of(const QMap<unsigned int, CCanOpenObject>& objects, unsigned int nodeId)

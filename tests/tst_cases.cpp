@@ -1,6 +1,7 @@
 #include "Description.h"
 
 #include <CXddChecker.h>
+#include <CXddDbcWriter.h>
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
 
@@ -307,6 +308,21 @@ QStringList converted(const QByteArray& text)
     return lines;
 }
 
+// The DBC of one device at node-ID 5, and what is left out.
+QStringList dbc(const QByteArray& text)
+{
+    const CXddDocument document = CXddDocument::open(text, QStringLiteral("bus.xdd"));
+    if (!document.isOpen()) {
+        return {failureOf(document)};
+    }
+    const CXddDbc dbc = CXddDbcWriter::write({CXddNode(document, 5)});
+    QStringList lines;
+    for (const CXddRemark& remark : dbc.mRemarks.value(0)) {
+        lines << QStringLiteral("%1: %2").arg(QString::number(remark.mLine), remark.mText);
+    }
+    return lines + linesOf(dbc.mText);
+}
+
 using Kinds = QMap<QString, std::function<QStringList(const QByteArray&)>>;
 const Kinds& kinds()
 {
@@ -314,7 +330,7 @@ const Kinds& kinds()
         {QStringLiteral("message"), message},      {QStringLiteral("load"), loaded},
         {QStringLiteral("normalize"), normalized}, {QStringLiteral("load-normalized"), loadedNormalized},
         {QStringLiteral("check"), checked},        {QStringLiteral("eds"), converted},
-        {QStringLiteral("load-eds"), loadedEds},
+        {QStringLiteral("load-eds"), loadedEds},   {QStringLiteral("dbc"), dbc},
     };
     return kinds;
 }

@@ -2,6 +2,7 @@
 #include "TestEncodings.h"
 
 #include <CXddChecker.h>
+#include <CXddDbcWriter.h>
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
 
@@ -9,6 +10,7 @@
 #include <QTemporaryFile>
 #include <QtTest>
 
+#include <algorithm>
 #include <memory>
 #include <random>
 #include <thread>
@@ -96,7 +98,14 @@ QString tools(const QByteArray& text)
     if (CXddEdsWriter::write(CXddDocument::open(eds.mText)).mText != eds.mText) {
         qFatal("The EDS is another one when it is read and written");
     }
-    for (const CXddRemark& remark : copy.mRemarks + eds.mLosses) {
+    const CXddDbc dbc = CXddDbcWriter::write({CXddNode(document, 5)}, CXddDbcWriter::OPTION_ALL);
+    const bool isAscii = std::all_of(dbc.mText.begin(), dbc.mText.end(), [](char character) {
+        return character == '\n' || (character >= ' ' && character <= '~');
+    });
+    if (!isAscii || dbc.mText.size() > 10 * text.size() + 1000000) {
+        qFatal("The DBC is not in ASCII, or too long: %d characters", int(dbc.mText.size()));
+    }
+    for (const CXddRemark& remark : copy.mRemarks + eds.mLosses + dbc.mRemarks.value(0)) {
         if (remark.mText.size() > 1500) {
             qFatal("A remark repeats too much: %d characters", int(remark.mText.size()));
         }
@@ -403,6 +412,35 @@ void TestHostile::toolsOnManyOfAKind_data()
                + "' name='x' objectType='9'><CANopenSubObject subIndex='01' name='x' objectType='7' "
                  "dataType='0007' accessType='rw' defaultValue='0x181'/></CANopenObject>\n";
     }) << MANY;
+    // Each of them maps one entry whose parameter has many values.
+    QTest::newRow("PDOs of one large parameter")
+        << objects
+        << "<parameter uniqueID='BIG'><allowedValues>"
+               + repeated(
+                   250,
+                   [](int i) {
+                       return "<value value='" + QByteArray::number(i)
+                              + "'><label lang='en'>abcdefghij</label></value>";
+                   })
+               + "</allowedValues><USINT/></parameter>"
+               + entry(0x2100, "dataType='0005' accessType='ro' PDOmapping='TPDO' uniqueIDRef='BIG'")
+               + repeated(
+                   400,
+                   [](int i) {
+                       const QByteArray number = QByteArray::number(0x10 + i, 16).rightJustified(3, '0');
+                       const auto sub = [](const char* index, const char* type, const QByteArray& value) {
+                           return "<CANopenSubObject subIndex='" + QByteArray(index)
+                                  + "' name='x' objectType='7' dataType='" + type + "' accessType='rw' defaultValue='"
+                                  + value + "'/>\n";
+                       };
+                       const QByteArray object = "' name='x' objectType='9'>";
+                       return "<CANopenObject index='1" + QByteArray::number(0x810 + i, 16) + object
+                              + sub("01", "0007", "0x2" + number) + "</CANopenObject><CANopenObject index='1"
+                              + QByteArray::number(0xA10 + i, 16) + object + sub("00", "0005", "8")
+                              + sub("01", "0007", "0x21000008") + sub("02", "0007", "0x21000008")
+                              + sub("03", "0007", "0x21000008") + "</CANopenObject>";
+                   })
+        << MANY;
     const QByteArray types = "</dataTypeList>";
     QTest::newRow("types that refer to each other many times")
         << types

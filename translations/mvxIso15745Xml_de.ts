@@ -1636,6 +1636,38 @@
         <source>%1 and what follows it are left out: they are beyond %2 bits</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1+node-ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no CAN-ID and is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is left out: CAN-ID %2 is that of %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 reads %2 of %3 otherwise, as %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 is left out: CAN-ID %3 is that of %4, where other values take its bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is disabled and left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDOs that map nothing: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the values of %1 are left out: there are too many</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tools</name>
@@ -1710,6 +1742,49 @@
     <message>
         <source>&quot;%1&quot; is not a node-ID: these are 1 to 127.</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>xdd2dbc</name>
+    <message>
+        <source>%1: &quot;%2&quot; is not a node-ID: these are 1 to 127.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: It states no node-ID; name it behind the file, as in %1:5.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and %2 have the same node-ID %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes what CANopen devices send and receive as a DBC, for bus analysers and loggers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A description and the node-ID of the device, which an XDC or DCF may state; - is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the DBC to OUT; else it goes to standard output.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take disabled PDOs as well.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave out emergency and heartbeat messages, NMT and SYNC.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report everything separately.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report nothing.</source>
+        <translation type="unfinished">Nichts berichten.</translation>
     </message>
 </context>
 <context>
@@ -2148,6 +2223,149 @@
     </message>
     <message>
         <source>Show the sample that the library carries.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(dummy)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(not described)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enabled, maps nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disabled, maps nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no PDOs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>disabled (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Multiplexed: its data name the node and the entry that they carry.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transmission type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inhibit time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Event timer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deadline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SYNC start value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Byte</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Further texts are left out: together they are far longer than the description.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multiplier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Allowed value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: No entry has &quot;%2&quot; in its texts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only one of --pdos and --object or --find is allowed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--node-id needs --pdos.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--find needs a text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the entries that have TEXT in their name, label, description or unit. May be given several times.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show what each PDO carries, bit by bit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --pdos: the node-ID that CAN-IDs are those of, unless the description states it.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -68,6 +68,13 @@
             <numerusform>%1: %n places not written as the format does, read as meant; &apos;xddnormalize --dry-run&apos; lists them.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n byte(s)</source>
+        <translation>
+            <numerusform>%n byte</numerusform>
+            <numerusform>%n bytes</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>xddnormalize</name>

@@ -9,6 +9,7 @@
 
 constexpr quint64 COB_ID_NOT_VALID = quint64(1) << 31U; ///< The PDO or message is not used
 constexpr quint64 COB_ID_PRODUCES = quint64(1) << 30U;  ///< Of SYNC and TIME: the device sends it
+constexpr quint64 COB_ID_NO_RTR = quint64(1) << 30U;    ///< Of a PDO: it is not sent on a remote request
 constexpr quint64 COB_ID_EXTENDED = quint64(1) << 29U;  ///< The CAN-ID has 29 bits
 constexpr quint64 CAN_ID_11 = 0x7FF;
 constexpr quint64 CAN_ID_29 = 0x1FFFFFFF;

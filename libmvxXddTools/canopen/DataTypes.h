@@ -15,6 +15,8 @@ constexpr unsigned int TYPE_UNSIGNED32 = 0x07;
 constexpr unsigned int TYPE_REAL32 = 0x08;
 constexpr unsigned int TYPE_VISIBLE_STRING = 0x09;
 constexpr unsigned int TYPE_OCTET_STRING = 0x0A;
+constexpr unsigned int TYPE_TIME_OF_DAY = 0x0C;
+constexpr unsigned int TYPE_TIME_DIFFERENCE = 0x0D;
 constexpr unsigned int TYPE_DOMAIN = 0x0F;
 constexpr unsigned int TYPE_REAL64 = 0x11;
 

@@ -3,7 +3,9 @@
 #include "CCanOpenNames.h"
 #include "canopen/CobIds.h"
 #include "canopen/DataTypes.h"
+#include "canopen/Texts.h"
 
+#include <QHash>
 #include <QLocale>
 
 namespace
@@ -31,6 +33,7 @@ public:
     {
         mLayout.mIsTransmit = mPdo.direction == EPdoDirection::Transmit;
         mLayout.mNumber = int(mPdo.number);
+        mLayout.mNodeId = mNodeId;
         mLayout.mHasCommunication = mPdo.communication != nullptr;
         mLayout.mHasMapping = mPdo.mapping != nullptr;
         mLayout.mIsMultiplexed = mPdo.isMultiplexed();
@@ -74,6 +77,7 @@ private:
         }
         mLayout.mIsEnabled = (*cobId & COB_ID_NOT_VALID) == 0;
         mLayout.mIsExtended = (*cobId & COB_ID_EXTENDED) != 0;
+        mLayout.mAllowsRtr = (*cobId & COB_ID_NO_RTR) == 0;
         mLayout.mCanId = unsigned(canIdOf(*cobId));
         mLayout.mUsesNodeId = value->usesNodeId();
         if (mLayout.mIsEnabled) {
@@ -273,4 +277,29 @@ private:
 CXddPdo layoutOf(const SPdo& pdo, const CDictionary& dictionary, unsigned int nodeId)
 {
     return CLayout(pdo, dictionary, nodeId).result();
+}
+
+QList<CXddPdo> layoutsOf(const CDescription& description, unsigned int nodeId)
+{
+    QHash<const SEntry*, CXddEntryTexts> texts; // Many PDOs can map one entry
+    QList<CXddPdo> layouts;
+    for (const SPdo& pdo : description.pdos()) {
+        CXddPdo layout = layoutOf(pdo, description.dictionary(), nodeId);
+        for (CXddPdoField& field : layout.mFields) {
+            const SEntry* const entry = description.dictionary().variable(field.mIndex, field.mSubIndex);
+            if (entry != nullptr && !texts.contains(entry)) {
+                texts.insert(entry, textsOf(*entry, description));
+            }
+            field.mTexts = texts.value(entry);
+        }
+        layouts << layout;
+    }
+    return layouts;
+}
+
+SPlace placeOf(const CXddPdo& pdo, const CDictionary& dictionary)
+{
+    const SEntry* const object =
+        dictionary.object(pdo.mHasCommunication ? pdo.communicationIndex() : pdo.mappingIndex());
+    return object == nullptr ? SPlace() : object->place();
 }

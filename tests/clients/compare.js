@@ -3,6 +3,7 @@
 // with the programs. What differs has to be in the report of xdd2eds.
 'use strict';
 
+const assert = require('assert');
 const { spawnSync } = require('child_process');
 const fs = require('fs');
 const os = require('os');
@@ -90,8 +91,68 @@ function found(object) {
     };
 }
 
+// The PDOs that are sent or received, with the entries that they carry. CAN-IDs are those of node-ID 0. The stack leaves
+// out entries that are not described.
+function pdosOfLayout(layout, eds) {
+    const isDescribed = (field) => eds.getEntry(field.index) !== undefined;
+    return layout
+        .filter((pdo) => pdo.enabled && pdo.canId && pdo.communication)
+        .map((pdo) => ({
+            direction: pdo.direction,
+            canId: pdo.canId,
+            type: pdo.transmissionType,
+            inhibit: pdo.inhibitTimeMicroseconds / 100,
+            timer: pdo.eventTimerMilliseconds,
+            entries: pdo.fields.filter(isDescribed).map((field) => `${field.index}:${field.subIndex}`),
+        }));
+}
+
+// The same as the stack computes it, which does not know the node-ID in a value; the reason where it does not do so.
+function pdosOfStack(edsFile) {
+    const text = fs.readFileSync(edsFile, 'latin1');
+    fs.writeFileSync(edsFile, text.replace(/=\$NODEID\+?(?=0x|\d)/gi, '='), 'latin1');
+    const plain = (direction) => (pdo) => ({
+        direction,
+        canId: pdo.cobId,
+        type: pdo.transmissionType,
+        inhibit: pdo.inhibitTime || 0,
+        timer: pdo.eventTime || 0,
+        entries: pdo.dataObjects.map((entry) => `${entry.index}:${entry.subIndex ?? 0}`),
+    });
+    try {
+        const eds = Eds.fromFile(edsFile);
+        return [...eds.getReceivePdos().map(plain('receive')), ...eds.getTransmitPdos().map(plain('transmit'))];
+    } catch (error) {
+        return error.message;
+    }
+}
+
 let failed = false;
 let compared = 0;
+let pdos = 0;
+// Compares the PDOs of an EDS.
+function comparePdos(file, edsFile, eds) {
+    const layout = JSON.parse(run('xddinfo', '--pdos', '--json', edsFile).stdout);
+    const wanted = pdosOfLayout(layout.pdos, eds);
+    const got = pdosOfStack(edsFile);
+    if (typeof got === 'string') {
+        console.log(`${path.basename(file)}: the stack computes no PDOs: ${got}`);
+        return;
+    }
+    for (const pdo of wanted.filter((one) => one.entries.length > 0)) {
+        const same = got.find((other) => other.direction === pdo.direction && other.canId === pdo.canId);
+        // It takes all entries of a mapping, whatever their number in sub-index 0.
+        same?.entries.splice(pdo.entries.length);
+        pdos += 1;
+        try {
+            assert.deepStrictEqual(same, pdo);
+        } catch (error) {
+            failed = true;
+            console.error(`${file}: ${error.message}`);
+        }
+    }
+}
+
 const folder = fs.mkdtempSync(path.join(os.tmpdir(), 'eds-'));
 const forms = [[], ['--dcf', '--node-id', '5']];
 for (const [file, options] of files.flatMap((name) => forms.map((form) => [name, form]))) {
@@ -127,8 +188,11 @@ for (const [file, options] of files.flatMap((name) => forms.map((form) => [name,
             compare(name, expected(object, 0), loaded && found(loaded));
         }
     }
+    if (options.length === 0) {
+        comparePdos(file, edsFile, eds);
+    }
     console.log(`${path.basename(file)} ${options.join(' ')}: ${equal} entries equal, ${told} as the report says`);
 }
 fs.rmSync(folder, { recursive: true });
-console.log(`${compared} entries compared`);
+console.log(`${compared} entries and ${pdos} PDOs compared`);
 process.exit(failed || compared === 0 ? 1 : 0);

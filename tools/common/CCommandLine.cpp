@@ -70,23 +70,34 @@ std::optional<int> CCommandLine::parse(const QStringList& arguments)
     if (files().contains(QString())) {
         return refuse(QCoreApplication::translate("tools", "A file name is empty."));
     }
-    if (isSet(NODE_ID) && (nodeId() == 0 || nodeId() > MAX_NODE_ID)) {
+    if (isSet(NODE_ID) && nodeId() == 0) {
         return refuse(
             QCoreApplication::translate("tools", "\"%1\" is not a node-ID: these are 1 to 127.").arg(value(NODE_ID)));
     }
     return std::nullopt;
 }
 
+unsigned int nodeIdFrom(const QString& text)
+{
+    const unsigned int number =
+        text.toUInt(nullptr, text.startsWith(QLatin1String("0x"), Qt::CaseInsensitive) ? 16 : 10);
+    return number <= MAX_NODE_ID ? number : 0;
+}
+
 unsigned int CCommandLine::nodeId() const
 {
-    const QString text = value(NODE_ID);
-    return text.toUInt(nullptr, text.startsWith(QLatin1String("0x"), Qt::CaseInsensitive) ? 16 : 10);
+    return nodeIdFrom(value(NODE_ID));
+}
+
+QStringList CCommandLine::texts(const QString& option) const
+{
+    return isSet(option) ? mParser.values(option) : QStringList();
 }
 
 QStringList CCommandLine::values(const QString& option) const
 {
     QStringList values;
-    for (const QString& text : isSet(option) ? mParser.values(option) : QStringList()) {
+    for (const QString& text : texts(option)) {
         for (const QString& value : text.split(QLatin1Char(','))) {
             values << value.trimmed();
         }

@@ -18,6 +18,9 @@ enum EExitStatus : int
 /** The name under which a file stands for standard input and output. */
 const QString& standardStream();
 
+/** The node-ID that a text names, from 1 to 127; 0 for any other text. */
+unsigned int nodeIdFrom(const QString& text);
+
 /** The command line of a tool: what it takes, and what all tools do with it. Options are asked for by their names. */
 class CCommandLine
 {
@@ -37,7 +40,9 @@ public:
 
     bool isSet(const QString& option) const { return mOptions.contains(option) && mParser.isSet(option); }
     QString value(const QString& option) const { return isSet(option) ? mParser.value(option) : QString(); }
-    /** The values of all occurrences of an option, taken apart at commas. */
+    /** The values of all occurrences of an option. */
+    QStringList texts(const QString& option) const;
+    /** The same, taken apart at commas. */
     QStringList values(const QString& option) const;
     /** The node-ID; 0 when none is given. */
     unsigned int nodeId() const;

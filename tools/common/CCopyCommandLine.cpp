@@ -1,6 +1,7 @@
 #include "CCopyCommandLine.h"
 
 #include "Descriptions.h"
+#include "Files.h"
 #include "Messages.h"
 
 #include <QCoreApplication>
@@ -16,13 +17,6 @@ const QString IN_PLACE = QStringLiteral("in-place");
 const QString DRY_RUN = QStringLiteral("dry-run");
 const QString VERBOSE = QStringLiteral("verbose");
 const QString QUIET = QStringLiteral("quiet");
-
-// True for two names of one existing file.
-bool isSameFile(const QString& left, const QString& right)
-{
-    const QString path = QFileInfo(left).canonicalFilePath();
-    return !path.isEmpty() && path == QFileInfo(right).canonicalFilePath();
-}
 } // namespace
 
 QString SDestination::of(const QString& fileName) const

@@ -37,3 +37,8 @@ void installCatalogue()
         install(name, QLocale(QLocale::English), folders);
     }
 }
+
+QString userLanguage()
+{
+    return QLocale().name().section(QLatin1Char('_'), 0, 0);
+}

@@ -90,3 +90,9 @@ bool writeFile(const QString& fileName, const QByteArray& bytes)
     }
     return ok;
 }
+
+bool isSameFile(const QString& left, const QString& right)
+{
+    const QString path = QFileInfo(left).canonicalFilePath();
+    return !path.isEmpty() && path == QFileInfo(right).canonicalFilePath();
+}

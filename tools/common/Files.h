@@ -8,4 +8,7 @@
  * allowed, its owner; a device or a pipe is written to. Complains and returns false when that fails. */
 bool writeFile(const QString& fileName, const QByteArray& bytes);
 
+/** True for two names of one existing file. */
+bool isSameFile(const QString& left, const QString& right);
+
 #endif

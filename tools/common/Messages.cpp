@@ -88,9 +88,13 @@ QList<CXddRemark> summedUp(const QList<CXddRemark>& remarks, int most)
         }
         if (group.count > most) {
             group.isSummedUp = true;
-            remark.mText = QCoreApplication::translate(
-                               "tools", "%1, and %n more like this up to line %2", nullptr, group.count - 1)
-                               .arg(remark.mText, QString::number(group.lastLine));
+            remark.mText =
+                group.lastLine == 0
+                    ? QCoreApplication::translate("tools", "%1, and %n more like this", nullptr, group.count - 1)
+                          .arg(remark.mText)
+                    : QCoreApplication::translate(
+                          "tools", "%1, and %n more like this up to line %2", nullptr, group.count - 1)
+                          .arg(remark.mText, QString::number(group.lastLine));
         }
         summary << remark;
     }
@@ -99,5 +103,5 @@ QList<CXddRemark> summedUp(const QList<CXddRemark>& remarks, int most)
 
 QString place(const QString& fileName, int line)
 {
-    return QStringLiteral("%1:%2: ").arg(fileName, QString::number(line));
+    return line == 0 ? fileName + QLatin1String(": ") : QStringLiteral("%1:%2: ").arg(fileName, QString::number(line));
 }

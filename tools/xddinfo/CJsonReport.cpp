@@ -21,6 +21,11 @@ QJsonValue orNull(const QString& text, bool valid)
     return valid ? QJsonValue(text) : QJsonValue();
 }
 
+QJsonValue orNull(unsigned int number, bool valid)
+{
+    return valid ? QJsonValue(qint64(number)) : QJsonValue();
+}
+
 QJsonValue toJson(const QDate& date)
 {
     return orNull(date.toString(Qt::ISODate), date.isValid());
@@ -64,8 +69,37 @@ QJsonValue toJson(const CVersion& version)
     };
 }
 
+QJsonArray toJson(const QList<CXddLabel>& labels)
+{
+    QJsonArray array;
+    for (const CXddLabel& label : labels) {
+        array.append(QJsonObject{{key("lang"), label.mLanguage}, {key("text"), label.mText}});
+    }
+    return array;
+}
+
+// Null for an entry of which nothing is said.
+QJsonValue toJson(const CXddEntryTexts& texts)
+{
+    if (texts.isEmpty()) {
+        return QJsonValue();
+    }
+    QJsonArray allowedValues;
+    for (const CXddAllowedValue& value : texts.mAllowedValues) {
+        allowedValues.append(
+            QJsonObject{{key("low"), value.mLow}, {key("high"), value.mHigh}, {key("labels"), toJson(value.mLabels)}});
+    }
+    return QJsonObject{
+        {key("labels"), toJson(texts.mLabels)}, {key("descriptions"), toJson(texts.mDescriptions)},
+        {key("units"), toJson(texts.mUnits)},   {key("unitURI"), texts.mUnitUri},
+        {key("multiplier"), texts.mMultiplier}, {key("offset"), texts.mOffset},
+        {key("allowedValues"), allowedValues},
+    };
+}
+
 // What objects and sub-objects have in common. Their index has a key of its own name.
-QJsonObject entryJson(const char* indexKey, const CCanOpenSubObject& entry, const QString& address)
+QJsonObject entryJson(
+    const char* indexKey, const CCanOpenSubObject& entry, const QString& address, const CXddEntryTexts& texts)
 {
     return {
         {key("address"), address},
@@ -86,15 +120,17 @@ QJsonObject entryJson(const char* indexKey, const CCanOpenSubObject& entry, cons
                                 entry.mPdoMapping != CCanOpenSubObject::OBJ_MAP_INVALID)},
         {key("objFlags"), toJson(entry.mObjFlags)},
         {key("uniqueIDRef"), entry.mUniqueIdRef},
+        {key("texts"), toJson(texts)},
     };
 }
 
-QJsonObject subObjectJson(unsigned int index, const CCanOpenSubObject& subObject)
+QJsonObject subObjectJson(unsigned int index, const CCanOpenSubObject& subObject, CShownTexts& texts)
 {
-    return entryJson("subIndex", subObject, CCanOpenNames::entry(index, subObject.mIndex));
+    return entryJson(
+        "subIndex", subObject, CCanOpenNames::entry(index, subObject.mIndex), texts.of(index, subObject.mIndex));
 }
 
-QJsonObject toJson(const CCanOpenObject& object);
+QJsonObject toJson(const CXddRemark& remark);
 
 template <typename Item> QJsonArray toJson(const QList<Item>& items)
 {
@@ -105,13 +141,13 @@ template <typename Item> QJsonArray toJson(const QList<Item>& items)
     return array;
 }
 
-QJsonObject toJson(const CCanOpenObject& object)
+QJsonObject objectJson(const CCanOpenObject& object, CShownTexts& texts)
 {
+    QJsonObject json = entryJson("index", object, CCanOpenNames::entry(object.mIndex), texts.of(object.mIndex));
     QJsonArray subObjects;
     for (const CCanOpenSubObject& subObject : object.mSubObjects) {
-        subObjects.append(subObjectJson(object.mIndex, subObject));
+        subObjects.append(subObjectJson(object.mIndex, subObject, texts));
     }
-    QJsonObject json = entryJson("index", object, CCanOpenNames::entry(object.mIndex));
     json[key("subNumber")] = object.mSubNumber;
     json[key("subObjects")] = subObjects;
     return json;
@@ -186,8 +222,12 @@ QJsonObject toJson(const CDeviceProfile& device)
     return object;
 }
 
-QJsonObject toJson(const CNetworkCanOpenProfile& network)
+QJsonObject toJson(const CNetworkCanOpenProfile& network, CShownTexts& texts)
 {
+    QJsonArray objects;
+    for (const CCanOpenObject& object : network.mObjects) {
+        objects.append(objectJson(object, texts));
+    }
     QJsonObject object = commonPart(network);
     object[key("vendorID")] = toJson(network.mVendorId);
     object[key("deviceFamily")] = toJson(network.mDeviceFamily);
@@ -198,10 +238,82 @@ QJsonObject toJson(const CNetworkCanOpenProfile& network)
     object[key("mandatoryObjects")] = toJson(network.mMandatoryObjects);
     object[key("optionalObjects")] = toJson(network.mOptionalObjects);
     object[key("manufacturerObjects")] = toJson(network.mManufacturerObjects);
-    object[key("objects")] = toJson(network.mObjects.values());
+    object[key("objects")] = objects;
     object[key("baudRate")] = toJson(network.mBaudRate);
     object[key("supportedBaudRates")] = toJson(network.mSupportedBaudRates);
     return object;
+}
+
+// How the bits of a field are to be read.
+QString kindWord(CXddPdoField::EKind kind)
+{
+    switch (kind) {
+    case CXddPdoField::KIND_UNSIGNED:
+        return key("unsigned");
+    case CXddPdoField::KIND_SIGNED:
+        return key("signed");
+    case CXddPdoField::KIND_REAL:
+        return key("real");
+    case CXddPdoField::KIND_BYTES:
+        return key("bytes");
+    case CXddPdoField::KIND_DUMMY:
+        return key("dummy");
+    case CXddPdoField::KIND_UNKNOWN:
+        break;
+    }
+    return key("unknown");
+}
+
+QJsonObject fieldJson(const CXddPdoField& field, CShownTexts& texts)
+{
+    return {
+        {key("address"), field.entry()},
+        {key("index"), toJson(field.mIndex)},
+        {key("subIndex"), toJson(field.mSubIndex)},
+        {key("name"), field.mName},
+        {key("objectName"), field.mObjectName},
+        {key("dataType"), toJson(field.mDataType)},
+        {key("kind"), kindWord(field.mKind)},
+        {key("offset"), field.mOffset},
+        {key("bits"), field.mBits},
+        {key("minimum"), orNull(field.mMinimum, !field.mMinimum.isEmpty())},
+        {key("maximum"), orNull(field.mMaximum, !field.mMaximum.isEmpty())},
+        {key("texts"), toJson(texts.limited(field.mTexts))},
+    };
+}
+
+QJsonObject toJson(const CXddRemark& remark)
+{
+    return {{key("line"), remark.mLine}, {key("entry"), remark.entry()}, {key("message"), remark.mText}};
+}
+
+QJsonObject pdoJson(const CXddPdo& pdo, CShownTexts& texts)
+{
+    QJsonArray fields;
+    for (const CXddPdoField& field : pdo.mFields) {
+        fields.append(fieldJson(field, texts));
+    }
+    const QString transmission = CXddPdo::transmissionAsStr(pdo.mTransmission);
+    return {
+        {key("name"), pdo.name()},
+        {key("number"), pdo.mNumber},
+        {key("direction"), key(pdo.mIsTransmit ? "transmit" : "receive")},
+        {key("communication"), orNull(pdo.communicationIndex(), pdo.mHasCommunication)},
+        {key("mapping"), orNull(pdo.mappingIndex(), pdo.mHasMapping)},
+        {key("enabled"), pdo.mIsEnabled},
+        {key("canId"), orNull(pdo.mCanId, pdo.mCanId != 0)},
+        {key("extended"), pdo.mIsExtended},
+        {key("usesNodeId"), pdo.mUsesNodeId},
+        {key("multiplexed"), pdo.mIsMultiplexed},
+        {key("transmissionType"), orNull(pdo.mTransmissionType.value_or(0), pdo.mTransmissionType.has_value())},
+        {key("transmission"), orNull(transmission, !transmission.isEmpty())},
+        {key("inhibitTimeMicroseconds"), toJson(pdo.mInhibitTime)},
+        {key("eventTimerMilliseconds"), toJson(pdo.mEventTimer)},
+        {key("syncStart"), toJson(pdo.mSyncStart)},
+        {key("bytes"), pdo.bytes()},
+        {key("fields"), fields},
+        {key("remarks"), toJson<CXddRemark>(pdo.mRemarks)},
+    };
 }
 
 // Inside of a JSON text an escape means the same as the character, so the document stays what it is.
@@ -218,7 +330,8 @@ CJsonReport::CJsonReport(COutput& output)
 void CJsonReport::showDescription(const SShownDescription& description)
 {
     QJsonObject device = toJson(description.reader->deviceProfile());
-    QJsonObject network = toJson(description.reader->networkProfile());
+    CShownTexts texts(description.document);
+    QJsonObject network = toJson(description.reader->networkProfile(), texts);
     // What the library or the normaliser supplied is not stated by the file.
     const auto clear = [&](QJsonObject& object, const char* name, CXddDocument::EItem item, const QJsonValue& nothing) {
         if (!description.document.states(item)) {
@@ -232,23 +345,46 @@ void CJsonReport::showDescription(const SShownDescription& description)
     clear(network, "manufacturerObjects", CXddDocument::ITEM_MANUFACTURER_OBJECTS, QJsonValue());
     clear(network, "baudRate", CXddDocument::ITEM_BAUD_RATE, QJsonValue());
     clear(network, "supportedBaudRates", CXddDocument::ITEM_SUPPORTED_BAUD_RATES, QJsonArray());
-    mOutput.writeLine(oneLine({
-        {key("file"), description.fileName},
-        {key("deviceProfile"), device},
-        {key("networkProfile"), network},
-    }));
+    writeLine(
+        {{key("file"), description.fileName}, {key("deviceProfile"), device}, {key("networkProfile"), network}}, texts);
 }
 
 void CJsonReport::showEntries(const SShownDescription& description, const QVector<SSelectedEntry>& entries)
 {
+    CShownTexts texts(description.document);
     for (const SSelectedEntry& entry : entries) {
         QJsonObject json{{key("file"), description.fileName}};
         if (entry.subObject) {
             json[key("index")] = toJson(entry.object.mIndex);
-            json[key("subObject")] = subObjectJson(entry.object.mIndex, *entry.subObject);
+            json[key("subObject")] = subObjectJson(entry.object.mIndex, *entry.subObject, texts);
         } else {
-            json[key("object")] = toJson(entry.object);
+            json[key("object")] = objectJson(entry.object, texts);
         }
-        mOutput.writeLine(oneLine(json));
+        writeLine(json, texts);
     }
+}
+
+void CJsonReport::showPdos(const SShownDescription& description)
+{
+    CShownTexts texts(description.document);
+    QJsonArray pdos;
+    for (const CXddPdo& pdo : description.pdos) {
+        pdos.append(pdoJson(pdo, texts));
+    }
+    writeLine(
+        {
+            {key("file"), description.fileName},
+            {key("nodeId"), orNull(description.nodeId, description.nodeId != 0)},
+            {key("pdos"), pdos},
+        },
+        texts);
+}
+
+// Says where texts were left out of it.
+void CJsonReport::writeLine(QJsonObject json, const CShownTexts& texts)
+{
+    if (texts.areLeftOut()) {
+        json[key("textsLeftOut")] = true;
+    }
+    mOutput.writeLine(oneLine(json));
 }

@@ -3,6 +3,7 @@
 
 #include "ShownDescription.h"
 
+#include <QJsonObject>
 #include <QVector>
 
 class COutput;
@@ -25,7 +26,12 @@ public:
     /** Shows objects and sub-objects, each on a line of its own. */
     void showEntries(const SShownDescription& description, const QVector<SSelectedEntry>& entries);
 
+    /** Shows the PDOs. */
+    void showPdos(const SShownDescription& description);
+
 private:
+    void writeLine(QJsonObject json, const CShownTexts& texts);
+
     COutput& mOutput;
 };
 

@@ -1,6 +1,7 @@
 #include "CTable.h"
 
 #include "COutput.h"
+#include "Messages.h"
 
 #include <algorithm>
 #include <clocale>
@@ -8,6 +9,9 @@
 
 namespace
 {
+// Width of the names of fields, in columns.
+constexpr int FIELD_NAME_WIDTH = 24;
+
 // Between two columns.
 constexpr int GAP = 2;
 
@@ -70,6 +74,15 @@ int columnsOf(const QString& text)
         columns += columnsOf(character);
     }
     return columns;
+}
+
+void writeField(COutput& output, const QString& indent, const QString& name, const QString& value)
+{
+    if (!value.isEmpty()) {
+        const QString start = indent + name;
+        const int gap = std::max(FIELD_NAME_WIDTH - columnsOf(start), 1);
+        output.writeLine(start + QString(gap, QLatin1Char(' ')) + printable(value));
+    }
 }
 
 CTable::CTable(const QVector<SColumn>& columns)

@@ -9,6 +9,9 @@ class COutput;
 /** The number of columns that a text takes on a terminal: characters of East Asian scripts take two. */
 int columnsOf(const QString& text);
 
+/** Writes a name and its value below each other's; a field without a value is left out. */
+void writeField(COutput& output, const QString& indent, const QString& name, const QString& value);
+
 /** A column of a table. */
 struct SColumn
 {

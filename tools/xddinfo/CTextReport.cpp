@@ -2,18 +2,13 @@
 
 #include "COutput.h"
 #include "CTable.h"
+#include "Catalogue.h"
 #include "Messages.h"
-
-#include <QLocale>
-#include <QRegularExpression>
 
 #include <algorithm>
 
 namespace
 {
-// Width of the names of fields, in columns.
-constexpr int FIELD_NAME_WIDTH = 24;
-
 // The object code of a variable.
 constexpr unsigned int VARIABLE = 7;
 
@@ -48,31 +43,15 @@ QString moment(const QDate& date, const QTime& time)
     return joined({date.toString(Qt::ISODate), time.toString(Qt::ISODate)}, QStringLiteral(" "));
 }
 
-bool isIn(const QString& language, const CGLabel& label)
-{
-    return label.mLang.section(QRegularExpression(QStringLiteral("[-_]")), 0, 0).compare(language, Qt::CaseInsensitive)
-           == 0;
-}
-
-// The texts of a list of labels, or what its references point to: those in the user's language where there are any,
-// else those in English, else all.
+// The texts of a list of labels, or what its references point to, in the user's language where there are any.
 QString labelsText(const CGLabels& labels)
 {
-    for (const QString& language : {QLocale().name().section(QLatin1Char('_'), 0, 0), QStringLiteral("en")}) {
-        QStringList texts;
-        for (const CGLabel& label : labels) {
-            texts << (isIn(language, label) ? label.mText : QString());
-        }
-        QString text = joined(texts, QStringLiteral("; "));
-        if (!text.isEmpty()) {
-            return text;
-        }
-    }
-    QStringList texts;
+    QList<CXddLabel> texts;
     for (const CGLabel& label : labels) {
-        texts << (label.mTextId.isEmpty() ? label.mText : label.mDictId + QLatin1Char('#') + label.mTextId);
+        texts << CXddLabel(
+            label.mLang, label.mTextId.isEmpty() ? label.mText : label.mDictId + QLatin1Char('#') + label.mTextId);
     }
-    return joined(texts, QStringLiteral("; "));
+    return CXddLabel::chosen(texts, userLanguage());
 }
 
 QString versionsText(const QList<CVersion>& versions)
@@ -221,6 +200,7 @@ void CTextReport::showDescription(const SShownDescription& description)
 void CTextReport::showEntries(const SShownDescription& description, const QVector<SSelectedEntry>& entries)
 {
     showSource(description);
+    CShownTexts texts(description.document);
     bool isFirst = true;
     for (const SSelectedEntry& entry : entries) {
         if (!isFirst) {
@@ -228,25 +208,28 @@ void CTextReport::showEntries(const SShownDescription& description, const QVecto
         }
         isFirst = false;
         if (entry.subObject) {
-            showSubObject(entry.object, *entry.subObject, QString());
+            showSubObject(entry.object, *entry.subObject, QString(), texts);
             continue;
         }
         mOutput.writeLine(tr("Object %1").arg(CCanOpenNames::entry(entry.object.mIndex)));
         showFields(entry.object, QStringLiteral("  "));
+        showTexts(texts.of(entry.object.mIndex), QStringLiteral("  "));
         showField(
             QStringLiteral("  "), tr("Stated sub-objects"),
             entry.object.mSubNumber == 0 ? QString() : QString::number(entry.object.mSubNumber));
         for (const CCanOpenSubObject& subObject : entry.object.mSubObjects) {
-            showSubObject(entry.object, subObject, QStringLiteral("  "));
+            showSubObject(entry.object, subObject, QStringLiteral("  "), texts);
         }
+    }
+    if (texts.areLeftOut()) {
+        mOutput.writeLine();
+        mOutput.writeLine(tr("Further texts are left out: together they are far longer than the description."));
     }
 }
 
 void CTextReport::showSource(const SShownDescription& description)
 {
-    const QString name =
-        description.isSample ? tr("Embedded sample %1").arg(description.fileName) : description.fileName;
-    mOutput.writeLine(printable(name));
+    mOutput.writeLine(printable(description.title()));
     mOutput.writeLine();
 }
 
@@ -363,10 +346,12 @@ void CTextReport::showDictionary(const QMap<unsigned int, CCanOpenObject>& objec
     (table.fits(mWidth) ? table : dictionaryTable(objects, true)).write(mOutput, mWidth);
 }
 
-void CTextReport::showSubObject(const CCanOpenObject& object, const CCanOpenSubObject& subObject, const QString& indent)
+void CTextReport::showSubObject(
+    const CCanOpenObject& object, const CCanOpenSubObject& subObject, const QString& indent, CShownTexts& texts)
 {
     mOutput.writeLine(indent + tr("Sub-object %1").arg(CCanOpenNames::entry(object.mIndex, subObject.mIndex)));
     showFields(subObject, indent + QLatin1String("  "));
+    showTexts(texts.of(object.mIndex, subObject.mIndex), indent + QLatin1String("  "));
 }
 
 void CTextReport::showFields(const CCanOpenSubObject& entry, const QString& indent)
@@ -387,12 +372,25 @@ void CTextReport::showFields(const CCanOpenSubObject& entry, const QString& inde
     showField(indent, tr("Parameter"), entry.mUniqueIdRef);
 }
 
-// A field without a value is left out.
+// What the description says of an entry for people.
+void CTextReport::showTexts(const CXddEntryTexts& texts, const QString& indent)
+{
+    const QString language = userLanguage();
+    showField(indent, tr("Label"), CXddLabel::chosen(texts.mLabels, language));
+    showField(indent, tr("Description"), CXddLabel::chosen(texts.mDescriptions, language));
+    showField(
+        indent, tr("Unit"), joined({CXddLabel::chosen(texts.mUnits, language), texts.mUnitUri}, QStringLiteral(" ")));
+    showField(indent, tr("Multiplier"), texts.mMultiplier);
+    showField(indent, tr("Offset"), texts.mOffset);
+    for (const CXddAllowedValue& value : texts.mAllowedValues) {
+        const QString range = value.isSingle() ? value.mLow : value.mLow + QLatin1String("..") + value.mHigh;
+        showField(
+            indent, tr("Allowed value"),
+            joined({range, CXddLabel::chosen(value.mLabels, language)}, QStringLiteral("  ")));
+    }
+}
+
 void CTextReport::showField(const QString& indent, const QString& name, const QString& value)
 {
-    if (!value.isEmpty()) {
-        const QString start = indent + name;
-        const int gap = std::max(FIELD_NAME_WIDTH - columnsOf(start), 1);
-        mOutput.writeLine(start + QString(gap, QLatin1Char(' ')) + printable(value));
-    }
+    writeField(mOutput, indent, name, value);
 }

@@ -35,8 +35,10 @@ private:
         const QString& name, bool isStated, unsigned int stated, CCanOpenNames::EObjectKind kind,
         const QMap<unsigned int, CCanOpenObject>& objects);
     void showDictionary(const QMap<unsigned int, CCanOpenObject>& objects);
-    void showSubObject(const CCanOpenObject& object, const CCanOpenSubObject& subObject, const QString& indent);
+    void showSubObject(
+        const CCanOpenObject& object, const CCanOpenSubObject& subObject, const QString& indent, CShownTexts& texts);
     void showFields(const CCanOpenSubObject& entry, const QString& indent);
+    void showTexts(const CXddEntryTexts& texts, const QString& indent);
     void showField(const QString& indent, const QString& name, const QString& value);
 
     COutput& mOutput;

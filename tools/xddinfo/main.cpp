@@ -1,12 +1,15 @@
 #include "CCommandLine.h"
 #include "CJsonReport.h"
 #include "COutput.h"
+#include "CPdoReport.h"
 #include "CTextReport.h"
 #include "Descriptions.h"
 #include "Messages.h"
 #include "ObjectSelection.h"
 
+#include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
+#include <CXddTexts.h>
 
 #include <QCoreApplication>
 
@@ -18,8 +21,10 @@
 
 namespace
 {
+const QString FIND = QStringLiteral("find");
 const QString JSON = QStringLiteral("json");
 const QString OBJECT = QStringLiteral("object");
+const QString PDOS = QStringLiteral("pdos");
 const QString SAMPLE = QStringLiteral("sample");
 const QString STRICT = QStringLiteral("strict");
 
@@ -30,6 +35,9 @@ struct SRequest
     bool isSample = false;
     bool json = false;
     bool strict = false;
+    bool pdos = false;
+    unsigned int nodeId = 0;   // 0 where none is given
+    QVector<QString> searched; // Texts that are looked for
     QVector<SObjectSelection> selections;
 };
 
@@ -64,6 +72,37 @@ QVector<SSelectedEntry> entriesOf(const SObjectSelection& selection, const QMap<
     return entries;
 }
 
+bool isIn(const QList<CXddLabel>& labels, const QString& text)
+{
+    return std::any_of(labels.begin(), labels.end(), [&text](const CXddLabel& label) {
+        return label.mText.contains(text, Qt::CaseInsensitive);
+    });
+}
+
+// The objects whose name, label, description or unit has a text, and the sub-objects of others.
+QVector<SSelectedEntry> entriesWith(const QString& text, const SShownDescription& description)
+{
+    const auto isFound = [&](const QString& name, unsigned int index, std::optional<unsigned int> subIndex) {
+        const CXddEntryTexts texts =
+            description.document.isOpen() ? CXddTexts::of(description.document, index, subIndex) : CXddEntryTexts();
+        return name.contains(text, Qt::CaseInsensitive) || isIn(texts.mLabels, text) || isIn(texts.mDescriptions, text)
+               || isIn(texts.mUnits, text);
+    };
+    QVector<SSelectedEntry> entries;
+    for (const CCanOpenObject& object : description.reader->getObjList()) {
+        if (isFound(object.mName, object.mIndex, std::nullopt)) {
+            entries << SSelectedEntry{object, std::nullopt};
+            continue;
+        }
+        for (const CCanOpenSubObject& subObject : object.mSubObjects) {
+            if (isFound(subObject.mName, object.mIndex, subObject.mIndex)) {
+                entries << SSelectedEntry{object, subObject};
+            }
+        }
+    }
+    return entries;
+}
+
 // Shows the selected entries. Returns false when there are none for one of the selections.
 bool showSelections(const SRequest& request, const SShownDescription& description, COutput& output)
 {
@@ -78,6 +117,15 @@ bool showSelections(const SRequest& request, const SShownDescription& descriptio
         }
         entries += selected;
     }
+    for (const QString& text : request.searched) {
+        const QVector<SSelectedEntry> found = entriesWith(text, description);
+        if (found.isEmpty()) {
+            complain(QCoreApplication::translate("xddinfo", "%1: No entry has \"%2\" in its texts.")
+                         .arg(description.fileName, text));
+            ok = false;
+        }
+        entries += found;
+    }
     if (!entries.isEmpty()) {
         request.json ? CJsonReport(output).showEntries(description, entries)
                      : CTextReport(output, terminalWidth()).showEntries(description, entries);
@@ -85,10 +133,26 @@ bool showSelections(const SRequest& request, const SShownDescription& descriptio
     return ok;
 }
 
+// Shows the PDOs, and says what was left out of them and what is doubtful.
+void showPdos(const SRequest& request, const SShownDescription& description, COutput& output)
+{
+    request.json ? CJsonReport(output).showPdos(description) : CPdoReport(output, terminalWidth()).show(description);
+    QList<CXddRemark> remarks;
+    for (const CXddPdo& pdo : description.pdos) {
+        remarks += pdo.mRemarks;
+    }
+    output.flush();
+    reportRemarks(description.fileName, summedUp(remarks));
+}
+
 bool show(const SRequest& request, const SShownDescription& description, COutput& output)
 {
-    if (!request.selections.isEmpty()) {
+    if (!request.selections.isEmpty() || !request.searched.isEmpty()) {
         return showSelections(request, description, output);
+    }
+    if (request.pdos) {
+        showPdos(request, description, output);
+        return true;
     }
     request.json ? CJsonReport(output).showDescription(description)
                  : CTextReport(output, terminalWidth()).showDescription(description);
@@ -151,8 +215,13 @@ bool showFile(const SRequest& request, const QString& fileName, COutput& output)
     if (!(request.strict ? loadStrict(document, *reader) : loadNormalized(document, *reader))) {
         return false;
     }
-    const QList<CXddPdo> pdos = request.strict ? CXddPdos::of(reader->getObjList()) : CXddPdos::of(document);
-    return show(request, {fileName, request.isSample, document, reader.get(), pdos}, output);
+    SShownDescription description{fileName, request.isSample, document, reader.get(), {}, request.nodeId};
+    if (description.nodeId == 0 && document.isOpen()) {
+        description.nodeId = CXddEdsWriter::commissioning(document).mNodeId;
+    }
+    description.pdos = request.strict ? CXddPdos::of(reader->getObjList(), description.nodeId)
+                                      : CXddPdos::of(document, description.nodeId);
+    return show(request, description, output);
 }
 
 int showAll(const SRequest& request)
@@ -175,6 +244,20 @@ QString readRequest(const CCommandLine& line, SRequest& request)
     request.isSample = line.isSet(SAMPLE);
     request.json = line.isSet(JSON);
     request.strict = line.isSet(STRICT);
+    request.pdos = line.isSet(PDOS);
+    request.nodeId = line.nodeId();
+    if (request.pdos && (line.isSet(OBJECT) || line.isSet(FIND))) {
+        return QCoreApplication::translate("xddinfo", "Only one of --pdos and --object or --find is allowed.");
+    }
+    if (request.nodeId != 0 && !request.pdos) {
+        return QCoreApplication::translate("xddinfo", "--node-id needs --pdos.");
+    }
+    for (const QString& text : line.texts(FIND)) {
+        if (text.isEmpty()) {
+            return QCoreApplication::translate("xddinfo", "--find needs a text.");
+        }
+        request.searched << text;
+    }
     for (const QString& text : line.values(OBJECT)) {
         const std::optional<SObjectSelection> selection = objectSelection(text);
         if (!selection) {
@@ -203,6 +286,15 @@ int run(const QStringList& arguments)
             "Show objects in full, in hexadecimal: 0x1018, 1018h, 0x1018:01, 0x1018sub1 or 0x1800-0x1803. May be given "
             "several times."),
         QCoreApplication::translate("xddinfo", "index"));
+    line.add(
+        {FIND},
+        QCoreApplication::translate(
+            "xddinfo",
+            "Show the entries that have TEXT in their name, label, description or unit. May be given several times."),
+        QStringLiteral("TEXT"));
+    line.add({PDOS}, QCoreApplication::translate("xddinfo", "Show what each PDO carries, bit by bit."));
+    line.addNodeId(QCoreApplication::translate(
+        "xddinfo", "With --pdos: the node-ID that CAN-IDs are those of, unless the description states it."));
     line.add({SAMPLE}, QCoreApplication::translate("xddinfo", "Show the sample that the library carries."));
     line.add(
         {STRICT}, QCoreApplication::translate(
