@@ -2,6 +2,7 @@
 #include <CXddDbcWriter.h>
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
+#include <CXddPage.h>
 #include <CXddPdos.h>
 #include <ICIso15745.h>
 
@@ -59,6 +60,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const char character : dbc.mText) {
         require(character == '\n' || (character >= ' ' && character <= '~'));
     }
+
+    const QByteArray page = CXddPage::write(document, {}).mText;
+    require(page.count("<script>") == (page.isEmpty() ? 0 : 1));
 
     const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
     QList<CXddRemark> remarks;

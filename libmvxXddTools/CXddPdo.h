@@ -103,6 +103,7 @@ public:
     unsigned int mEventTimer = 0;  ///< Longest time between two, in milliseconds; 0 for none. A deadline where received
     unsigned int mSyncStart = 0;   ///< Value of the SYNC counter with which it begins; 0 for any
     QList<CXddPdoField> mFields;   ///< What it carries, in order
+    QList<CXddPdoField> mBeyond;   ///< What is mapped behind it and does not fit into its 64 bits
     QList<CXddRemark> mRemarks;    ///< What was left out or taken otherwise, and what is doubtful
 };
 

@@ -73,6 +73,8 @@ for size in small large; do
     try "xddnormalize -o, $size" copy.xdd "$bin/xddnormalize" -q -o "$work/out/copy.xdd" "$source"
     echo before >"$work/out/copy.eds"
     try "xdd2eds -o, $size" copy.eds "$bin/xdd2eds" -q -o "$work/out/copy.eds" "$source"
+    echo before >"$work/out/copy.html"
+    try "xdd2html -o, $size" copy.html "$bin/xdd2html" -o "$work/out/copy.html" "$source"
     echo before >"$work/out/copy.dbc"
     try "xdd2dbc -o, $size" copy.dbc "$bin/xdd2dbc" -q -o "$work/out/copy.dbc" "$source:5"
 done

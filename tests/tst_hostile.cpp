@@ -5,6 +5,7 @@
 #include <CXddDbcWriter.h>
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
+#include <CXddPage.h>
 
 #include <QDomDocument>
 #include <QTemporaryFile>
@@ -104,6 +105,10 @@ QString tools(const QByteArray& text)
     });
     if (!isAscii || dbc.mText.size() > 10 * text.size() + 1000000) {
         qFatal("The DBC is not in ASCII, or too long: %d characters", int(dbc.mText.size()));
+    }
+    const CXddPage page = CXddPage::write(document, {});
+    if (page.mText.count("<script") > 1 || page.mText.size() > 30 * text.size() + 200000) {
+        qFatal("A text has become markup, or the page is too long: %d bytes", int(page.mText.size()));
     }
     for (const CXddRemark& remark : copy.mRemarks + eds.mLosses + dbc.mRemarks.value(0)) {
         if (remark.mText.size() > 1500) {

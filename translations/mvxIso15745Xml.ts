@@ -1666,6 +1666,464 @@
         <source>the values of %1 are left out: there are too many</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>by %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>version %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>created</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>modified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in the device (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none (0x1000 is 0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none of CiA&apos;s (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vendor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vendor ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vendor text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Device family</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Product family</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Product ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Product text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Versions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Build date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Follows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Instance name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Follows profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Revision number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Device profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data types</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Communication objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Communication</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Manufacturer-specific objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Manufacturer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects of the device profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No entry has all these words.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Further texts are left out: together they are far longer than the description.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameters of PDOs, %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Access</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDO</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more like this</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further sub-object(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Denotation: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Physical value: (raw + %1) × %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>maps %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>actual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>order number %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>entries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>receive PDOs in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>transmit PDOs in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>errors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>warnings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Process data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter: 6041, name, type ... ( / )</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter the object dictionary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sub-objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>boot-up slave</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>boot-up master</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LSS slave</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>group messaging</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDO granularity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bit rates (kbit/s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (default)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not supported:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Findings of the checker</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no PDOs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Byte 0 is sent first; bit 0 of each byte is at its left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transmit (from the device)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receive (to the device)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multiplexed: its data name the node and the entry that they carry.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (type %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>inhibit time %1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>event timer %1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>deadline %1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SYNC start value %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>29 bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RTR allowed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Byte %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unused bit(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Does not fit into 8 bytes:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dummy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not described</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Byte</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n PDO(s) that map nothing</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CAN-ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CANopen devices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDOs in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tools</name>
@@ -1739,6 +2197,10 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a node-ID: these are 1 to 127.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 would be written to %2, which leads to the others.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1857,6 +2319,41 @@
     </message>
 </context>
 <context>
+    <name>xdd2html</name>
+    <message>
+        <source>Writes CANopen device descriptions as pages for a browser.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A description; - is standard input. The page of one goes to standard output unless it is named.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the page of the one FILE to OUT; - is standard output.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the pages to DIR, named as the files with .html, and index.html, which leads to them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The node-ID that CAN-IDs are those of, unless the description states it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The language of the pages, en or de; en without it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave out what the checker finds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no pages in the language &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>xddcheck</name>
     <message>
         <source>Says what is wrong with CANopen device descriptions.</source>
@@ -1928,71 +2425,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Device profile</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Network profile</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Object %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Stated sub-objects</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Vendor</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Vendor ID</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Vendor text</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Device family</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Product family</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Product</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Product ID</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Product text</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Order number</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Versions</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Build date</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Follows</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Instance name</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2108,55 +2545,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>by %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>version %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>created</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>modified</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>in the device (%1)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Receive PDOs</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Transmit PDOs</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>none (0x1000 is 0)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>none of CiA&apos;s (%1)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Follows profile</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Revision number</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Serial number</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>File</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

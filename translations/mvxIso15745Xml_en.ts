@@ -17,6 +17,41 @@
             <numerusform>the structure has %n members, but %1 (line %2) has another number of sub-objects: %3</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n more like this</source>
+        <translation>
+            <numerusform>%n more like this</numerusform>
+            <numerusform>%n more like this</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further sub-object(s)</source>
+        <translation>
+            <numerusform>%n further sub-object</numerusform>
+            <numerusform>%n further sub-objects</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s)</source>
+        <translation>
+            <numerusform>%n byte</numerusform>
+            <numerusform>%n bytes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unused bit(s)</source>
+        <translation>
+            <numerusform>%n unused bit</numerusform>
+            <numerusform>%n unused bits</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n PDO(s) that map nothing</source>
+        <translation>
+            <numerusform>%n PDO that map nothing</numerusform>
+            <numerusform>%n PDOs that map nothing</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>xdd2eds</name>

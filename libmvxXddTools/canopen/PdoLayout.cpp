@@ -177,13 +177,13 @@ private:
                 mRemarks.add(*field.entry, CRemarks::tr("the active entry maps nothing"));
                 continue;
             }
-            if (offset + field.bits > MAX_PDO_BITS) {
+            const bool fits = mLayout.mBeyond.isEmpty() && offset + field.bits <= MAX_PDO_BITS;
+            if (!fits && mLayout.mBeyond.isEmpty()) {
                 mRemarks.add(
                     *field.entry, CRemarks::tr("%1 and what follows it are left out: they are beyond %2 bits"),
                     {field.name(), MAX_PDO_BITS});
-                return;
             }
-            mLayout.mFields << fieldAt(field, int(offset));
+            (fits ? mLayout.mFields : mLayout.mBeyond) << fieldAt(field, int(offset));
             offset += field.bits;
         }
     }
@@ -285,7 +285,7 @@ QList<CXddPdo> layoutsOf(const CDescription& description, unsigned int nodeId)
     QList<CXddPdo> layouts;
     for (const SPdo& pdo : description.pdos()) {
         CXddPdo layout = layoutOf(pdo, description.dictionary(), nodeId);
-        for (CXddPdoField& field : layout.mFields) {
+        for (CXddPdoField& field : layout.mFields) { // What does not fit is only named
             const SEntry* const entry = description.dictionary().variable(field.mIndex, field.mSubIndex);
             if (entry != nullptr && !texts.contains(entry)) {
                 texts.insert(entry, textsOf(*entry, description));

@@ -38,11 +38,16 @@ CCopyCommandLine::CCopyCommandLine(const QString& description, const QString& fi
     , mOnlyOne(QCoreApplication::translate("tools", "Only one of --output and --output-dir is allowed."))
 {}
 
-void CCopyCommandLine::addCopyOptions(
-    const QString& output, const QString& outputDir, const QString& verbose, const QString& quiet)
+void CCopyCommandLine::addOutputOptions(const QString& output, const QString& outputDir)
 {
     add({QStringLiteral("o"), OUTPUT}, output, QStringLiteral("OUT"));
     add({OUTPUT_DIR}, outputDir, QStringLiteral("DIR"));
+}
+
+void CCopyCommandLine::addCopyOptions(
+    const QString& output, const QString& outputDir, const QString& verbose, const QString& quiet)
+{
+    addOutputOptions(output, outputDir);
     add({DRY_RUN}, QCoreApplication::translate("tools", "Write nothing, only report."));
     add({VERBOSE}, verbose);
     add({QStringLiteral("q"), QUIET}, quiet);
@@ -96,6 +101,10 @@ QString CCopyCommandLine::refusal(const SCopyRequest& request) const
         const QString copy = destination.of(fileName);
         if (!destination.inPlace && isSameFile(fileName, copy)) {
             return QCoreApplication::translate("tools", "%1 would be overwritten.").arg(fileName);
+        }
+        if (!mKeptFree.isEmpty() && !destination.outputDir.isEmpty() && QFileInfo(copy).fileName() == mKeptFree) {
+            return QCoreApplication::translate("tools", "%1 would be written to %2, which leads to the others.")
+                .arg(fileName, copy);
         }
         if (sources.contains(copy)) {
             return QCoreApplication::translate("tools", "%1 and %2 would both be written to %3.")

@@ -41,11 +41,17 @@ public:
     /** @p suffix is the ending of copies in a folder; empty where they are XDDs. */
     CCopyCommandLine(const QString& description, const QString& files, const QString& suffix);
 
-    /** Adds what all these tools take; the tool says what becomes of a file. */
+    /** Adds where copies go to; the tool says what becomes of a file. */
+    void addOutputOptions(const QString& output, const QString& outputDir);
+
+    /** The same, and what tools take that report. */
     void addCopyOptions(const QString& output, const QString& outputDir, const QString& verbose, const QString& quiet);
 
     /** Gives copies in a folder another ending. */
     void setSuffix(const QString& suffix) { mSuffix = suffix; }
+
+    /** Keeps a name in the folder free of copies. */
+    void keepFree(const QString& fileName) { mKeptFree = fileName; }
 
     /** Lets the files be changed themselves. */
     void addInPlace(const QString& description);
@@ -59,6 +65,7 @@ private:
     QString refusal(const SCopyRequest& request) const;
 
     QString mSuffix;
+    QString mKeptFree;
     QString mOnlyOne; // Which options exclude each other
 };
 

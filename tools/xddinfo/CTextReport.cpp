@@ -5,6 +5,8 @@
 #include "Catalogue.h"
 #include "Messages.h"
 
+#include <CXddFacts.h>
+
 #include <algorithm>
 
 namespace
@@ -38,34 +40,6 @@ QString joined(const QStringList& texts, const QString& separator)
     return stated.join(separator);
 }
 
-QString moment(const QDate& date, const QTime& time)
-{
-    return joined({date.toString(Qt::ISODate), time.toString(Qt::ISODate)}, QStringLiteral(" "));
-}
-
-// The texts of a list of labels, or what its references point to, in the user's language where there are any.
-QString labelsText(const CGLabels& labels)
-{
-    QList<CXddLabel> texts;
-    for (const CGLabel& label : labels) {
-        texts << CXddLabel(
-            label.mLang, label.mTextId.isEmpty() ? label.mText : label.mDictId + QLatin1Char('#') + label.mTextId);
-    }
-    return CXddLabel::chosen(texts, userLanguage());
-}
-
-QString versionsText(const QList<CVersion>& versions)
-{
-    QStringList texts;
-    for (const CVersion& version : versions) {
-        const QString type = version.mVersionType == CVersion::VTYPE_INVALID
-                                 ? QString()
-                                 : CVersion::versionTypeAsStr(version.mVersionType);
-        texts << (version.mValue.isEmpty() ? QString() : joined({type, version.mValue}, QStringLiteral(" ")));
-    }
-    return joined(texts, QStringLiteral(", "));
-}
-
 // A bit rate in kbit/s.
 QString rateShown(CNetworkCanOpenProfile::EBaudrate rate)
 {
@@ -77,31 +51,6 @@ QString rateShown(CNetworkCanOpenProfile::EBaudrate rate)
     default:
         return QCoreApplication::translate("xddinfo", "%1 kbit/s").arg(static_cast<int>(rate));
     }
-}
-
-// "created 2011-10-05 09:09:00 by name", as far as it is stated.
-QString doneText(const QString& what, const QString& when, const QString& by)
-{
-    if (when.isEmpty() && by.isEmpty()) {
-        return QString();
-    }
-    const QString who = by.isEmpty() ? QString() : QCoreApplication::translate("xddinfo", "by %1").arg(by);
-    return joined({what, when, who}, QStringLiteral(" "));
-}
-
-// The file attributes, which both profiles have under the same names.
-template <typename Profile> QString fileText(const Profile& profile, bool hasCreationDate)
-{
-    const QString created = moment(hasCreationDate ? profile.mFileCreationDate : QDate(), profile.mFileCreationTime);
-    const QString modified = moment(profile.mFileModificationDate, profile.mFileModificationTime);
-    const QString version = profile.mFileVersion.isEmpty()
-                                ? QString()
-                                : QCoreApplication::translate("xddinfo", "version %1").arg(profile.mFileVersion);
-    return joined(
-        {profile.mFileName, version,
-         doneText(QCoreApplication::translate("xddinfo", "created"), created, profile.mFileCreator),
-         doneText(QCoreApplication::translate("xddinfo", "modified"), modified, profile.mFileModifiedBy)},
-        QStringLiteral(", "));
 }
 
 // What kind of entry it is: the data type of a variable, else the object code.
@@ -141,26 +90,6 @@ CTable dictionaryTable(const QMap<unsigned int, CCanOpenObject>& objects, bool i
     return table;
 }
 
-const CCanOpenSubObject* subObjectOf(const CCanOpenObject& object, unsigned int subIndex)
-{
-    const auto found = std::find_if(
-        object.mSubObjects.begin(), object.mSubObjects.end(),
-        [subIndex](const CCanOpenSubObject& subObject) { return subObject.mIndex == subIndex; });
-    return found == object.mSubObjects.end() ? nullptr : &*found;
-}
-
-// The value of a sub-object of the identity object, or where to find it.
-QString identityValue(const CCanOpenObject& identity, unsigned int subIndex)
-{
-    const CCanOpenSubObject* const entry = subObjectOf(identity, subIndex);
-    if (entry == nullptr) {
-        return QString();
-    }
-    const QString value = entry->mActualValue.isEmpty() ? entry->mDefaultValue : entry->mActualValue;
-    const QString place = CCanOpenNames::entry(0x1018, subIndex);
-    return value.isEmpty() ? QCoreApplication::translate("xddinfo", "in the device (%1)").arg(place)
-                           : QStringLiteral("%1 (%2)").arg(value, place);
-}
 } // namespace
 
 CTextReport::CTextReport(COutput& output, int width)
@@ -172,9 +101,12 @@ void CTextReport::showDescription(const SShownDescription& description)
 {
     const CNetworkCanOpenProfile& network = description.reader->networkProfile();
     showSource(description);
-    showIdentity(description.reader->deviceProfile());
-    showStandardObjects(network.mObjects);
-    showFiles(description);
+    showFacts(CXddFacts::identity(*description.reader, userLanguage()));
+    const QList<CXddFact> files = CXddFacts::files(*description.reader, description.document);
+    if (!files.isEmpty()) {
+        mOutput.writeLine();
+        showFacts(files);
+    }
     mOutput.writeLine();
     showBitRates(description);
     showPdos(tr("Receive PDOs"), description.pdos, false);
@@ -233,56 +165,11 @@ void CTextReport::showSource(const SShownDescription& description)
     mOutput.writeLine();
 }
 
-void CTextReport::showIdentity(const CDeviceProfile& device)
+void CTextReport::showFacts(const QList<CXddFact>& facts)
 {
-    const QString none;
-    showField(none, tr("Vendor"), device.mVendorName.mValue);
-    showField(none, tr("Vendor ID"), device.mVendorId.mValue);
-    showField(none, tr("Vendor text"), labelsText(device.mVendorText.mLabels));
-    showField(none, tr("Device family"), labelsText(device.mDeviceFamily.mLabels));
-    showField(none, tr("Product family"), device.mProductFamily.mValue);
-    showField(none, tr("Product"), device.mProductName.mValue);
-    showField(none, tr("Product ID"), device.mProductId.mValue);
-    showField(none, tr("Product text"), labelsText(device.mProductText.mLabels));
-    showField(none, tr("Order number"), device.mOrderNumber.mValue);
-    showField(none, tr("Versions"), versionsText(device.mVersions));
-    showField(none, tr("Build date"), device.mBuildDate.toString(Qt::ISODate));
-    showField(none, tr("Follows"), device.mSpecificationRevision.mValue);
-    showField(none, tr("Instance name"), device.mInstanceName.mValue);
-}
-
-// What the objects of every device say about it: its type, revision and serial number.
-void CTextReport::showStandardObjects(const QMap<unsigned int, CCanOpenObject>& objects)
-{
-    const CCanOpenObject type = objects.value(0x1000);
-    const QString value = type.mActualValue.isEmpty() ? type.mDefaultValue : type.mActualValue;
-    bool ok = false;
-    const unsigned int number = value.toUInt(&ok, 0) & 0xFFFFU;
-    const QString profile = CCanOpenNames::deviceProfile(number);
-    const QString other = number == 0 ? tr("none (0x1000 is 0)") : tr("none of CiA's (%1)").arg(number);
-    showField(QString(), tr("Follows profile"), ok && profile.isEmpty() ? other : profile);
-    const CCanOpenObject identity = objects.value(0x1018);
-    showField(QString(), tr("Revision number"), identityValue(identity, 3));
-    showField(QString(), tr("Serial number"), identityValue(identity, 4));
-}
-
-// One line where both profiles say the same.
-void CTextReport::showFiles(const SShownDescription& description)
-{
-    const QString device = fileText(
-        description.reader->deviceProfile(), description.document.states(CXddDocument::ITEM_DEVICE_CREATION_DATE));
-    const QString network = fileText(
-        description.reader->networkProfile(), description.document.states(CXddDocument::ITEM_NETWORK_CREATION_DATE));
-    if (device.isEmpty() && network.isEmpty()) {
-        return;
+    for (const CXddFact& fact : facts) {
+        showField(QString(), fact.mName, fact.mValue);
     }
-    mOutput.writeLine();
-    if (device == network) {
-        showField(QString(), tr("File"), device);
-        return;
-    }
-    showField(QString(), tr("Device profile"), device);
-    showField(QString(), tr("Network profile"), network);
 }
 
 void CTextReport::showBitRates(const SShownDescription& description)

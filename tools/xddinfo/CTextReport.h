@@ -4,6 +4,7 @@
 #include "ShownDescription.h"
 
 #include <CCanOpenNames.h>
+#include <CXddFact.h>
 
 #include <QCoreApplication>
 
@@ -26,9 +27,7 @@ public:
 
 private:
     void showSource(const SShownDescription& description);
-    void showIdentity(const CDeviceProfile& device);
-    void showStandardObjects(const QMap<unsigned int, CCanOpenObject>& objects);
-    void showFiles(const SShownDescription& description);
+    void showFacts(const QList<CXddFact>& facts);
     void showBitRates(const SShownDescription& description);
     void showPdos(const QString& name, const QList<CXddPdo>& pdos, bool isTransmit);
     void showCount(

@@ -1,0 +1,69 @@
+#ifndef MVXXDDTOOLS_CDICTIONARYTABLES_H
+#define MVXXDDTOOLS_CDICTIONARYTABLES_H
+
+#include "html/CHtml.h"
+#include "html/SPage.h"
+
+#include <QCoreApplication>
+#include <QHash>
+
+/** A range of the object dictionary. */
+struct SDictionaryRange
+{
+    QString id;
+    QString name;
+    QString shortName;
+    unsigned int first = 0;
+    unsigned int last = 0;
+};
+
+/** Writes the object dictionary: a row for each entry, with what is said of it. */
+class CDictionaryTables
+{
+    Q_DECLARE_TR_FUNCTIONS(mvxXddTools)
+
+public:
+    CDictionaryTables(CHtml& html, const SPage& page);
+
+    void write();
+
+    /** The ranges in which a description has objects. */
+    static QList<SDictionaryRange> ranges(const SPage& page);
+
+private:
+    using Objects = QList<const CCanOpenObject*>;
+
+    void writeRange(const SDictionaryRange& range);
+    void writeTables(const Objects& objects);
+    void beginTable();
+    void endTable();
+    void writeObject(const CCanOpenObject& object);
+    void writeFold(const CCanOpenObject& object, int first, int end, const QString& text);
+    void writeSubObject(const CCanOpenObject& object, int number);
+    void writeRow(
+        unsigned int index, std::optional<unsigned int> subIndex, const CCanOpenSubObject& entry, const QString& id);
+    void writeName(unsigned int index, std::optional<unsigned int> subIndex, const CCanOpenSubObject& entry);
+    void writeTexts(unsigned int index, std::optional<unsigned int> subIndex, const CCanOpenSubObject& entry);
+    void writeLabels(const QList<CXddLabel>& labels, const QString& except);
+    void writeValues(const QList<CXddAllowedValue>& values, const CCanOpenSubObject& entry);
+    void writeMapped(unsigned int index, std::optional<unsigned int> subIndex);
+    void writeFindings(unsigned int index, std::optional<unsigned int> subIndex);
+    void writePdo(const QString& address, const CCanOpenSubObject& entry);
+    void writeDefault(const CCanOpenSubObject& entry);
+    QString rangeText(const CCanOpenSubObject& entry) const;
+    bool isAlike(const CCanOpenObject& object, int left, int right) const;
+
+    CHtml& mHtml;
+    const SPage& mPage;
+    bool mIsLarge;                                      // Rows are laid out by the browser when they come into view
+    int mRows = 0;                                      // In the table that is open
+    qint64 mTextsLeft;                                  // In characters
+    QHash<unsigned int, int> mSubIndexes;               // How often the object that is written has had each
+    QString mUnit;                                      // Of the row that is written
+    QHash<QString, QStringList> mPdos;                  // The PDOs that carry an entry
+    QHash<QString, QString> mMapped;                    // What the entries of mappings map
+    QHash<QString, QList<const CXddRemark*>> mFindings; // By the entry that they are about
+    QHash<QString, int> mFindingsOfRule;
+};
+
+#endif
