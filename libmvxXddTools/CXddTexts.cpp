@@ -3,15 +3,24 @@
 #include "SOpened.h"
 #include "canopen/Texts.h"
 
-CXddEntryTexts CXddTexts::of(const CXddDocument& document, unsigned int index, std::optional<unsigned int> subIndex)
+CXddTexts::CXddTexts(const CXddDocument& document)
+    : mDocument(document)
+    , mTexts(mDocument.isOpen() ? std::make_unique<CTexts>(openedOf(mDocument).description) : nullptr)
+{}
+
+CXddTexts::~CXddTexts() = default;
+
+CXddEntryTexts CXddTexts::of(unsigned int index, std::optional<unsigned int> subIndex)
 {
-    const CDescription& description = openedOf(document).description;
-    const SEntry* const entry =
-        subIndex ? description.dictionary().subObject(index, *subIndex) : description.dictionary().object(index);
-    return entry == nullptr ? CXddEntryTexts() : textsOf(*entry, description);
+    if (!mTexts) {
+        return {};
+    }
+    const CDictionary& dictionary = openedOf(mDocument).description.dictionary();
+    const SEntry* const entry = subIndex ? dictionary.subObject(index, *subIndex) : dictionary.object(index);
+    return entry == nullptr ? CXddEntryTexts() : mTexts->of(*entry);
 }
 
-QStringList CXddTexts::languages(const CXddDocument& document)
+QStringList CXddTexts::languages() const
 {
-    return languagesOf(openedOf(document).description);
+    return mTexts ? languagesOf(openedOf(mDocument).description) : QStringList();
 }

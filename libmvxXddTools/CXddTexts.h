@@ -7,19 +7,30 @@
 
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 
-/** What a description says for people, which the records do not hold. */
+class CTexts;
+
+/** What a description says for people, which the records do not hold. To be used by one thread. */
 class MVXXDDTOOLS_EXPORT CXddTexts
 {
 public:
-    /** The texts of an object or sub-object of a description, which has to be open; none where there is no such
-     * entry. */
-    static CXddEntryTexts of(
-        const CXddDocument& document, unsigned int index, std::optional<unsigned int> subIndex = std::nullopt);
+    /** The texts of a description. One that is not open has none. */
+    explicit CXddTexts(const CXddDocument& document);
+    CXddTexts(const CXddTexts&) = delete;
+    CXddTexts& operator=(const CXddTexts&) = delete;
+    ~CXddTexts();
 
-    /** The languages in which a description, which has to be open, has texts: "de", "en". */
-    static QStringList languages(const CXddDocument& document);
+    /** The texts of an object or sub-object; none where there is no such entry. */
+    CXddEntryTexts of(unsigned int index, std::optional<unsigned int> subIndex = std::nullopt);
+
+    /** The languages in which the description has texts: "de", "en". */
+    QStringList languages() const;
+
+private:
+    const CXddDocument mDocument;
+    const std::unique_ptr<CTexts> mTexts; // Null where the document is not open
 };
 
 #endif

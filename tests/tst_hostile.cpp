@@ -107,7 +107,7 @@ QString tools(const QByteArray& text)
         qFatal("The DBC is not in ASCII, or too long: %d characters", int(dbc.mText.size()));
     }
     const CXddPage page = CXddPage::write(document, {});
-    if (page.mText.count("<script") > 1 || page.mText.size() > 30 * text.size() + 200000) {
+    if (page.mText.count("<script") > 1 || page.mText.size() > 15 * text.size() + 300000) {
         qFatal("A text has become markup, or the page is too long: %d bytes", int(page.mText.size()));
     }
     for (const CXddRemark& remark : copy.mRemarks + eds.mLosses + dbc.mRemarks.value(0)) {

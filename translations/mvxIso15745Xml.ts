@@ -2124,6 +2124,12 @@
         <source>Warnings</source>
         <translation type="unfinished"></translation>
     </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tools</name>

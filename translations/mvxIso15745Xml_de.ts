@@ -2131,6 +2131,13 @@
         <source>Warnings</source>
         <translation type="unfinished"></translation>
     </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tools</name>

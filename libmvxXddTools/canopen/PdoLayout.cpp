@@ -5,7 +5,6 @@
 #include "canopen/DataTypes.h"
 #include "canopen/Texts.h"
 
-#include <QHash>
 #include <QLocale>
 
 namespace
@@ -281,16 +280,13 @@ CXddPdo layoutOf(const SPdo& pdo, const CDictionary& dictionary, unsigned int no
 
 QList<CXddPdo> layoutsOf(const CDescription& description, unsigned int nodeId)
 {
-    QHash<const SEntry*, CXddEntryTexts> texts; // Many PDOs can map one entry
+    CTexts texts(description);
     QList<CXddPdo> layouts;
     for (const SPdo& pdo : description.pdos()) {
         CXddPdo layout = layoutOf(pdo, description.dictionary(), nodeId);
         for (CXddPdoField& field : layout.mFields) { // What does not fit is only named
             const SEntry* const entry = description.dictionary().variable(field.mIndex, field.mSubIndex);
-            if (entry != nullptr && !texts.contains(entry)) {
-                texts.insert(entry, textsOf(*entry, description));
-            }
-            field.mTexts = texts.value(entry);
+            field.mTexts = entry == nullptr ? CXddEntryTexts() : texts.of(*entry);
         }
         layouts << layout;
     }

@@ -12,11 +12,21 @@ using namespace NFormatWords;
 
 namespace
 {
-// As many characters of texts an entry has; what comes behind is cut or left. Many entries can refer to one large
-// parameter.
+// As many characters of texts an entry or a parameter has; what comes behind is cut or left.
 constexpr int MAX_CHARACTERS = 8000;
 
-// Collects the texts of one entry, up to that size.
+// Adds a text that is not there yet.
+void addNew(QList<CXddLabel>& labels, const CXddLabel& label)
+{
+    const bool isKnown = std::any_of(labels.begin(), labels.end(), [&label](const CXddLabel& known) {
+        return known.mLanguage == label.mLanguage && known.mText == label.mText;
+    });
+    if (!label.mText.isEmpty() && !isKnown) {
+        labels << label;
+    }
+}
+
+// Collects the texts of one entry or parameter, up to that size.
 class CTextCollector
 {
 public:
@@ -85,12 +95,7 @@ private:
     void add(QList<CXddLabel>& labels, CXddLabel label)
     {
         label.mText = taken(label.mText.simplified());
-        const bool isKnown = std::any_of(labels.begin(), labels.end(), [&label](const CXddLabel& known) {
-            return known.mLanguage == label.mLanguage && known.mText == label.mText;
-        });
-        if (!label.mText.isEmpty() && !isKnown) {
-            labels << label;
-        }
+        addNew(labels, label);
     }
 
     // The texts that a reference names in a dictionary of the description; where those are in a file of their own,
@@ -123,13 +128,41 @@ private:
 };
 } // namespace
 
-CXddEntryTexts textsOf(const SEntry& entry, const CDescription& description)
+CTexts::CTexts(const CDescription& description)
+    : mDescription(description)
+{}
+
+CXddEntryTexts CTexts::of(const SEntry& entry)
 {
     CXddEntryTexts texts;
-    CTextCollector collector(description);
-    const CXmlElement& parameter = entry.parameter;
+    if (!entry.parameter.isNull()) {
+        const int key = entry.parameter.range().begin;
+        if (!mOfParameters.contains(key)) {
+            mOfParameters.insert(key, ofParameter(entry.parameter));
+        }
+        texts = mOfParameters.value(key);
+    }
+    if (entry.element.firstChild().isNull()) {
+        return texts;
+    }
+    CXddEntryTexts own;
+    CTextCollector(mDescription).addTexts(entry.element, own.mLabels, own.mDescriptions);
+    const auto addBehind = [](QList<CXddLabel>& labels, const QList<CXddLabel>& others) {
+        for (const CXddLabel& label : others) {
+            addNew(labels, label);
+        }
+        return labels;
+    };
+    texts.mLabels = addBehind(own.mLabels, texts.mLabels);
+    texts.mDescriptions = addBehind(own.mDescriptions, texts.mDescriptions);
+    return texts;
+}
+
+CXddEntryTexts CTexts::ofParameter(const CXmlElement& parameter) const
+{
+    CXddEntryTexts texts;
+    CTextCollector collector(mDescription);
     const CXmlElement unit = parameter.child(TAG_UNIT);
-    collector.addTexts(entry.element, texts.mLabels, texts.mDescriptions);
     collector.addTexts(parameter, texts.mLabels, texts.mDescriptions);
     texts.mUnits = collector.allTexts(unit);
     texts.mUnitUri = unit.attribute(ATTR_UNIT_URI);

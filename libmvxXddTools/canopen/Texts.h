@@ -10,8 +10,22 @@
  * Labels, descriptions, units and allowed values: what a description says for people.
  */
 
-/** The texts of an entry of the description: its own, then those of its parameter. */
-CXddEntryTexts textsOf(const SEntry& entry, const CDescription& description);
+/** The texts of the entries of a description. Those of a parameter are read once, whatever refers to it. */
+class CTexts
+{
+public:
+    /** @p description has to outlive this object. */
+    explicit CTexts(const CDescription& description);
+
+    /** The texts of an entry: its own, then those of its parameter. */
+    CXddEntryTexts of(const SEntry& entry);
+
+private:
+    CXddEntryTexts ofParameter(const CXmlElement& parameter) const;
+
+    const CDescription& mDescription;
+    QHash<int, CXddEntryTexts> mOfParameters; // By where they begin
+};
 
 /** The languages of all texts, in alphabetical order. */
 QStringList languagesOf(const CDescription& description);

@@ -2,7 +2,6 @@
 
 #include "CCanOpenNames.h"
 #include "canopen/ObjectCodes.h"
-#include "canopen/Texts.h"
 
 #include <QRegularExpression>
 
@@ -57,6 +56,7 @@ QString withoutDigits(QString text)
 CDictionaryTables::CDictionaryTables(CHtml& html, const SPage& page)
     : mHtml(html)
     , mPage(page)
+    , mTexts(page.description)
     , mIsLarge(page.entries() >= LARGE)
     , mTextsLeft(page.bytes.size() + LEAST_TEXTS)
 {
@@ -262,7 +262,7 @@ void CDictionaryTables::writeTexts(
     if (described == nullptr) {
         return;
     }
-    const CXddEntryTexts texts = textsOf(*described, mPage.description);
+    const CXddEntryTexts texts = mTexts.of(*described);
     mUnit = cutForPage(CXddLabel::chosen(texts.mUnits, mPage.language));
     mTextsLeft -= texts.characters();
     if (mTextsLeft < 0) {

@@ -1,6 +1,7 @@
 #ifndef MVXXDDTOOLS_CDICTIONARYTABLES_H
 #define MVXXDDTOOLS_CDICTIONARYTABLES_H
 
+#include "canopen/Texts.h"
 #include "html/CHtml.h"
 #include "html/SPage.h"
 
@@ -55,6 +56,7 @@ private:
 
     CHtml& mHtml;
     const SPage& mPage;
+    CTexts mTexts;
     bool mIsLarge;                                      // Rows are laid out by the browser when they come into view
     int mRows = 0;                                      // In the table that is open
     qint64 mTextsLeft;                                  // In characters

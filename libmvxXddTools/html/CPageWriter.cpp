@@ -18,6 +18,10 @@ namespace
 // Of one rule as many findings are shown without unfolding them.
 constexpr int MAX_UNFOLDED = 5;
 
+// Findings are listed up to the size of the file and so many characters; a line of two characters can have one.
+constexpr qint64 LEAST_FINDINGS = 50000;
+constexpr qint64 FINDING_MARKUP = 120;
+
 QByteArray resource(const char* name)
 {
     QFile file(QStringLiteral(":/mvxXddTools/html/") + QString::fromLatin1(name));
@@ -68,6 +72,7 @@ QString rowId(unsigned int index, std::optional<unsigned int> subIndex)
 
 CPageWriter::CPageWriter(const SPage& page)
     : mPage(page)
+    , mFindingsLeft(page.bytes.size() + LEAST_FINDINGS)
 {}
 
 QByteArray CPageWriter::bytes()
@@ -298,7 +303,13 @@ void CPageWriter::writeGroup(const QList<CXddRemark>& group)
     mHtml.text(QStringLiteral(" ")).element("code", first.mRule);
     mHtml.text(QStringLiteral(" %1×").arg(group.size())).close();
     mHtml.open("ul", {{"class", QStringLiteral("fs")}}).line();
-    for (const CXddRemark& finding : group) {
+    for (int i = 0; i < group.size(); ++i) {
+        if (mFindingsLeft < 0) {
+            mHtml.element("li", tr("and %n more", nullptr, int(group.size()) - i)).line();
+            break;
+        }
+        const CXddRemark& finding = group[i];
+        mFindingsLeft -= FINDING_MARKUP + finding.mText.size();
         const QString entry = finding.entry();
         const bool hasRow = finding.mIndex && mPage.reader.networkProfile().mObjects.contains(*finding.mIndex);
         mHtml.open("li");

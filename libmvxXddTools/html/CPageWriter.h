@@ -33,6 +33,7 @@ private:
 
     const SPage& mPage;
     CHtml mHtml;
+    qint64 mFindingsLeft; // In characters
 };
 
 #endif

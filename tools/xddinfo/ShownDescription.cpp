@@ -1,7 +1,5 @@
 #include "ShownDescription.h"
 
-#include <CXddTexts.h>
-
 #include <QCoreApplication>
 
 namespace
@@ -17,13 +15,13 @@ QString SShownDescription::title() const
 }
 
 CShownTexts::CShownTexts(const CXddDocument& document)
-    : mDocument(document)
+    : mTexts(document)
     , mLeft(TEXTS_FACTOR * document.bytes().size() + TEXTS_LEAST)
 {}
 
 CXddEntryTexts CShownTexts::of(unsigned int index, std::optional<unsigned int> subIndex)
 {
-    return mDocument.isOpen() ? limited(CXddTexts::of(mDocument, index, subIndex)) : CXddEntryTexts();
+    return limited(mTexts.of(index, subIndex));
 }
 
 CXddEntryTexts CShownTexts::limited(const CXddEntryTexts& texts)

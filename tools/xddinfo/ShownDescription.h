@@ -4,6 +4,7 @@
 #include <CXddDocument.h>
 #include <CXddEntryTexts.h>
 #include <CXddPdos.h>
+#include <CXddTexts.h>
 #include <ICIso15745.h>
 
 #include <QString>
@@ -48,7 +49,7 @@ public:
     bool areLeftOut() const { return mAreLeftOut; }
 
 private:
-    const CXddDocument& mDocument;
+    CXddTexts mTexts;
     qint64 mLeft; // In characters
     bool mAreLeftOut = false;
 };

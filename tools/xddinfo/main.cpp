@@ -9,7 +9,6 @@
 
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
-#include <CXddTexts.h>
 
 #include <QCoreApplication>
 
@@ -82,9 +81,9 @@ bool isIn(const QList<CXddLabel>& labels, const QString& text)
 // The objects whose name, label, description or unit has a text, and the sub-objects of others.
 QVector<SSelectedEntry> entriesWith(const QString& text, const SShownDescription& description)
 {
+    CXddTexts allTexts(description.document);
     const auto isFound = [&](const QString& name, unsigned int index, std::optional<unsigned int> subIndex) {
-        const CXddEntryTexts texts =
-            description.document.isOpen() ? CXddTexts::of(description.document, index, subIndex) : CXddEntryTexts();
+        const CXddEntryTexts texts = allTexts.of(index, subIndex);
         return name.contains(text, Qt::CaseInsensitive) || isIn(texts.mLabels, text) || isIn(texts.mDescriptions, text)
                || isIn(texts.mUnits, text);
     };
