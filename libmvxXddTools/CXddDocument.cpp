@@ -91,7 +91,7 @@ CXddDocument::CXddDocument() = default;
 // The first character, in whatever encoding of Unicode, opens a tag.
 bool CXddDocument::isXml(const QByteArray& beginning)
 {
-    const auto first = std::find_if(beginning.begin(), beginning.end(), [](char byte) {
+    const auto* const first = std::find_if(beginning.begin(), beginning.end(), [](char byte) {
         return std::strchr("\xEF\xBB\xBF\xFE\xFF \t\r\n", byte) == nullptr; // Marks and spaces; it finds NUL as well
     });
     return first != beginning.end() && *first == '<';

@@ -33,7 +33,7 @@ QString CXddLabel::chosen(const QList<CXddLabel>& labels, const QString& languag
         return texts.join(QLatin1String("; "));
     };
     for (const QString& wanted : {language, QStringLiteral("en")}) {
-        const QString texts = wanted.isEmpty() ? QString() : textsIn(wanted);
+        QString texts = wanted.isEmpty() ? QString() : textsIn(wanted);
         if (!texts.isEmpty()) {
             return texts;
         }

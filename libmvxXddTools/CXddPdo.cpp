@@ -1,7 +1,7 @@
 #include "CXddPdo.h"
 
 #include "CCanOpenNames.h"
-#include "canopen/CValue.h"
+#include "canopen/Pdos.h"
 
 #include <QCoreApplication>
 
@@ -95,7 +95,6 @@ QString CXddPdo::transmissionAsStr(ETransmission transmission)
 
 int CXddPdo::bytes() const
 {
-    constexpr int bitsOfByte = 8;
     const int bits = mFields.isEmpty() ? 0 : mFields.last().mOffset + mFields.last().mBits;
-    return mIsMultiplexed ? 8 : (bits + bitsOfByte - 1) / bitsOfByte;
+    return mIsMultiplexed ? MAX_PDO_BYTES : (bits + BITS_OF_BYTE - 1) / BITS_OF_BYTE;
 }

@@ -99,7 +99,7 @@ CDescription::CDescription(const CXmlTree& tree, EForm form)
 
 QLatin1String CDescription::word(QLatin1String name) const
 {
-    const auto found =
+    const auto* const found =
         std::find_if(KEYS.begin(), KEYS.end(), [name](const std::pair<QLatin1String, QLatin1String>& row) {
             return row.first == name;
         });

@@ -54,7 +54,7 @@ constexpr std::array TYPES = {
 
 const SDataType& dataTypeOf(unsigned int index)
 {
-    const auto found =
+    const auto* const found =
         std::lower_bound(TYPES.begin(), TYPES.end(), index, [](const SDataType& type, unsigned int wanted) {
             return type.index < wanted;
         });
@@ -73,14 +73,14 @@ int bitSize(unsigned int dataType)
 
 unsigned int dataTypeNamed(const QString& name)
 {
-    const auto found =
+    const auto* const found =
         std::find_if(TYPES.begin(), TYPES.end(), [&name](const SDataType& type) { return name == type.name; });
     return name.isEmpty() || found == TYPES.end() ? 0 : found->index;
 }
 
 unsigned int simpleType(const QString& name)
 {
-    const auto found = std::find_if(TYPES.begin(), TYPES.end(), [&](const SDataType& type) {
+    const auto* const found = std::find_if(TYPES.begin(), TYPES.end(), [&](const SDataType& type) {
         return name == type.processName || name == type.bitName;
     });
     return name.isEmpty() || found == TYPES.end() ? 0 : found->index;

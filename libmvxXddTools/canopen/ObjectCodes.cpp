@@ -19,14 +19,14 @@ constexpr SObjectCode UNKNOWN = {0, QLatin1String(), false, false, false, false}
 
 const SObjectCode& objectCodeOf(unsigned int code)
 {
-    const auto found =
+    const auto* const found =
         std::find_if(CODES.begin(), CODES.end(), [code](const SObjectCode& row) { return row.code == code; });
     return found == CODES.end() ? UNKNOWN : *found;
 }
 
 unsigned int objectCodeNamed(const QString& name)
 {
-    const auto found =
+    const auto* const found =
         std::find_if(CODES.begin(), CODES.end(), [&name](const SObjectCode& row) { return row.name == name; });
     return found == CODES.end() ? 0 : found->code;
 }

@@ -29,6 +29,8 @@ constexpr unsigned int MULTIPLEXED = 254;
 /** Most entries of a mapping, and most bits: the data of one CAN frame. */
 constexpr unsigned int MAX_MAPPED = 64;
 constexpr unsigned int MAX_PDO_BITS = 64;
+constexpr int MAX_PDO_BYTES = 8;
+constexpr int BITS_OF_BYTE = 8;
 
 /** The direction of the PDO whose communication parameters have that index. */
 std::optional<EPdoDirection> communicationDirection(unsigned int index);

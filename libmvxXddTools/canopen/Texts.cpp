@@ -87,7 +87,7 @@ private:
     QString taken(const QString& text)
     {
         const bool isCut = text.size() > mLeft;
-        const QString result = isCut ? text.left(mLeft) + QLatin1String("...") : text;
+        QString result = isCut ? text.left(mLeft) + QLatin1String("...") : text;
         mLeft -= int(result.size());
         return result;
     }

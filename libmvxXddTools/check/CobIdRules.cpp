@@ -18,7 +18,7 @@ constexpr unsigned int LAST_SDO = 0x12FF;
 bool isSdo(const SEntry& entry)
 {
     return isBetween(entry.index.value_or(0), FIRST_SDO_SERVER, LAST_SDO)
-           && (entry.subIndex == 1U || entry.subIndex == 2U);
+           && isBetween(entry.subIndex.value_or(0), 1, 2);
 }
 
 bool isPdo(const SEntry& entry)

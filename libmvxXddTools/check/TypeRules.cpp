@@ -242,7 +242,7 @@ constexpr std::array STANDARD_TYPES = {
 // 0 where CiA 301 gives none.
 unsigned int standardType(unsigned int index, unsigned int subIndex)
 {
-    const auto found = std::find_if(STANDARD_TYPES.begin(), STANDARD_TYPES.end(), [&](const SStandardType& row) {
+    const auto* const found = std::find_if(STANDARD_TYPES.begin(), STANDARD_TYPES.end(), [&](const SStandardType& row) {
         return isBetween(index, row.firstIndex, row.lastIndex)
                && isBetween(subIndex, row.firstSubIndex, row.lastSubIndex);
     });

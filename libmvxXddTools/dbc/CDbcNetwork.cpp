@@ -21,7 +21,6 @@ constexpr int MAX_PRODUCT = 18;
 // Most values of all tables together; real devices have a few hundred.
 constexpr int MAX_VALUES = 20000;
 
-constexpr int BITS_OF_BYTE = 8;
 constexpr unsigned int MICROSECONDS = 1000; // In a millisecond
 
 constexpr unsigned int SYNC_COB_ID = 0x1005;
@@ -53,7 +52,7 @@ QString englishText(const QList<CXddLabel>& labels)
 unsigned int milliseconds(quint64 microseconds)
 {
     const quint64 rounded = (microseconds + MICROSECONDS / 2) / MICROSECONDS;
-    const quint64 largest = quint64(std::numeric_limits<int>::max());
+    const auto largest = quint64(std::numeric_limits<int>::max());
     return microseconds == 0 ? 0 : unsigned(std::min(std::max<quint64>(rounded, 1), largest));
 }
 
@@ -369,7 +368,7 @@ void CDbcNetwork::addReceiver(SEntered& entered, SNode& node, const CXddPdo& pdo
     const SPlace place = placeOf(pdo, node.description.dictionary());
     for (const SDbcSignal& signal : signalsOfPdo(node, pdo)) {
         QVector<SDbcSignal>& known = entered.message.signalList;
-        const auto same = std::find_if(known.begin(), known.end(), [&signal](const SDbcSignal& other) {
+        auto* const same = std::find_if(known.begin(), known.end(), [&signal](const SDbcSignal& other) {
             return other.start == signal.start && other.bits == signal.bits;
         });
         if (same != known.end()) {

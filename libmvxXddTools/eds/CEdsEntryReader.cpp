@@ -144,7 +144,7 @@ void CEdsEntryReader::readAccess(SEdsEntry& entry, const SPlace& place, const SE
         return;
     }
     const QString word = *edsValueOf(key->value).value;
-    const auto known = std::find_if(ACCESS_WORDS.begin(), ACCESS_WORDS.end(), [&word](const SAccessWord& row) {
+    const auto* const known = std::find_if(ACCESS_WORDS.begin(), ACCESS_WORDS.end(), [&word](const SAccessWord& row) {
         return isEdsName(word, row.word);
     });
     if (known == ACCESS_WORDS.end()) {
@@ -215,7 +215,7 @@ QString CEdsEntryReader::text(const SPlace& place, const SEdsKey* key)
         return QString();
     }
     const SEdsMeaning<QString> text = edsTextOf(key->value);
-    const QString allowed = allowedInXml(*text.value);
+    QString allowed = allowedInXml(*text.value);
     if (!text.isPlain) {
         mRemarks.taken(
             at(place, *key), QLatin1String("eds-text"), CRemarks::tr("the quotes around %1 are left out"),

@@ -5,9 +5,6 @@
 
 namespace
 {
-constexpr int BITS_OF_BYTE = 8;
-constexpr int MAX_BYTES = 8;
-
 // "0x6041.0": what a field carries; a variable has the sub-index 0.
 QString entryKey(const CXddPdoField& field)
 {
@@ -139,7 +136,7 @@ void CPdoCards::writeObjects(const CXddPdo& pdo)
 void CPdoCards::writePicture(const CXddPdo& pdo)
 {
     mHtml.open("ol", {{"class", QStringLiteral("bytes")}, {"aria-hidden", QStringLiteral("true")}});
-    for (int byte = 0; byte < MAX_BYTES; ++byte) {
+    for (int byte = 0; byte < MAX_PDO_BYTES; ++byte) {
         mHtml.element("li", byte == 0 ? tr("Byte %1").arg(byte) : QString::number(byte));
     }
     mHtml.close().line().open("ol", {{"class", QStringLiteral("bits")}}).line();

@@ -33,7 +33,7 @@ QString SPlace::entry() const
     if (!isEntry) {
         return QString();
     }
-    const QString object = index ? CCanOpenNames::entry(*index) : QStringLiteral("?");
+    QString object = index ? CCanOpenNames::entry(*index) : QStringLiteral("?");
     if (!isSubObject) {
         return object;
     }

@@ -32,7 +32,7 @@ QString referenced(QStringView name)
         const char32_t code = name.mid(hexadecimal ? 2 : 1).toString().toUInt(nullptr, hexadecimal ? 16 : 10);
         return QString::fromUcs4(&code, 1);
     }
-    const auto found =
+    const auto* const found =
         std::find_if(ENTITIES.begin(), ENTITIES.end(), [name](const SEntity& entity) { return name == entity.name; });
     return found == ENTITIES.end() ? QString() : QString(QLatin1Char(found->character));
 }

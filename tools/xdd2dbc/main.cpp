@@ -61,7 +61,7 @@ QString readRequest(const CCommandLine& line, SRequest& request)
     request.verbose = line.isSet(VERBOSE);
     for (const QString& argument : line.files()) {
         SNamedNode node;
-        const QString refusal = readNode(argument, node);
+        QString refusal = readNode(argument, node);
         if (!refusal.isEmpty()) {
             return refusal;
         }

@@ -26,9 +26,12 @@ ECopied writePage(
     }
     CXddPage page;
     {
-        // What is said while a file is opened is in the page, too.
         const COtherLanguage language(options.mLanguage);
-        page = CXddPage::write(CXddDocument::open(document.bytes(), document.name()), options);
+        if (document.form() != CXddDocument::FORM_XDD) {
+            // What is said while an EDS is opened is in the page, too.
+            document = CXddDocument::open(document.bytes(), document.name());
+        }
+        page = CXddPage::write(document, options);
     }
     if (page.mText.isEmpty()) {
         complainAbout(fileName, page.mFailure);
