@@ -46,6 +46,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     requireSound(copy.mRemarks, lines);
     const CXddDocument again = CXddDocument::open(copy.mText);
     require(again.isOpen() && CXddNormalizer::normalize(again).mText == copy.mText);
+    const CXddCopy right = CXddNormalizer::conform(document);
+    const CXddDocument rightAgain = CXddDocument::open(right.mText);
+    require(rightAgain.isOpen() && CXddNormalizer::conform(rightAgain).mText == right.mText);
     const CXddEds eds = CXddEdsWriter::write(document);
     requireSound(eds.mLosses, lines);
     require(eds.mIncomplete <= eds.mEntries);

@@ -3,6 +3,7 @@
 #include "SOpened.h"
 #include "canopen/NFormatWords.h"
 #include "check/CCheckRules.h"
+#include "check/Examples.h"
 
 #include <QHash>
 #include <QSet>
@@ -50,6 +51,42 @@ QSet<QString> addRead(const QList<CXddRemark>& remarks, CRemarks& findings)
     return consequences;
 }
 
+// Takes out the findings that comments hide. A comment that hides none is a finding itself.
+QList<CXddRemark> withoutHidden(const QList<CXddRemark>& findings, const std::vector<SSuppression>& suppressions)
+{
+    QMultiHash<int, const SSuppression*> byLine;
+    for (const SSuppression& suppression : suppressions) {
+        byLine.insert(suppression.hidden, &suppression);
+    }
+    QSet<const SSuppression*> used;
+    CRemarks shown;
+    for (const CXddRemark& finding : findings) {
+        bool isHidden = false;
+        for (const SSuppression* const suppression : byLine.values(finding.mLine)) {
+            if (CXddRule::isNamed(finding.mRule, suppression->rule)) {
+                isHidden = true;
+                used.insert(suppression);
+            }
+        }
+        if (!isHidden) {
+            shown.add(finding);
+        }
+    }
+    for (const SSuppression& suppression : suppressions) {
+        if (!used.contains(&suppression)) {
+            CXddRemark cause;
+            cause.mKind = CXddRemark::KIND_FINDING;
+            cause.mSeverity = CXddRemark::SEVERITY_NOTE;
+            cause.mRule = QStringLiteral("unused-suppression");
+            shown.setCause(cause);
+            shown.add(
+                SPlace{suppression.line}, CRemarks::tr("the comment hides nothing of the rule %1 in line %2"),
+                {suppression.rule, suppression.hidden});
+        }
+    }
+    return shown.inOrder();
+}
+
 // Other tools take a description without a typed body; those that follow the schema find nothing in it.
 bool hasTypedBody(const CDescription& description, CXddRemark& failure)
 {
@@ -92,10 +129,16 @@ QList<CXddRemark> CXddChecker::check(const CXddDocument& document)
         };
         found.erase(std::remove_if(found.begin(), found.end(), isSaid), found.end());
     }
-    return found;
+    return opened.suppressions.empty() ? found : withoutHidden(found, opened.suppressions);
 }
 
 QList<CXddRule> CXddChecker::rules()
 {
-    return shownRules(checkRuleTables());
+    QList<CXddRule> rules = shownRules(checkRuleTables());
+    for (CXddRule& rule : rules) {
+        const SExample& example = exampleOf(rule.mId);
+        rule.mWrong = QString::fromUtf8(example.wrong);
+        rule.mRight = QString::fromUtf8(example.right);
+    }
+    return rules;
 }

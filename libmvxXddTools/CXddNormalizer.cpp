@@ -70,6 +70,21 @@ CXddCopy CXddNormalizer::normalize(const CXddDocument& document)
     return copyOf(document, CXmlEdits::ELayout::Indented);
 }
 
+CXddCopy CXddNormalizer::conform(const CXddDocument& document)
+{
+    if (document.form() != CXddDocument::FORM_XDD) {
+        return normalize(document);
+    }
+    const SOpened& opened = openedOf(document);
+    CXmlEdits edits(opened.tree, CXmlEdits::ELayout::Indented);
+    apply({&CNormalizeRules::conform()}, opened.description, edits);
+    CXddCopy copy;
+    copy.mText = edits.isEmpty() ? document.bytes() : opened.encoded.encode(edits.result());
+    copy.mLoads = edits.isComplete();
+    copy.mRemarks = edits.remarks();
+    return copy;
+}
+
 bool CXddNormalizer::load(
     const CXddDocument& document, ICIso15745& reader, QList<CXddRemark>& remarks, CXddRemark& failure)
 {

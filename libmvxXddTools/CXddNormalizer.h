@@ -39,6 +39,13 @@ public:
     static CXddCopy normalize(const CXddDocument& document);
 
     /**
+     * A copy of a description in XML, which has to be open, for publishing: what CXddChecker finds and has one right
+     * writing is put right, by the rules of the checker. What has no one right writing is left; the copy of the copy is
+     * the same. The copy of an EDS is what normalize() makes of it.
+     */
+    static CXddCopy conform(const CXddDocument& document);
+
+    /**
      * Loads a description as ICIso15745::load does, normalised. What the library could not read, such as an object that
      * is there twice, is left out and reported. No file is written.
      *

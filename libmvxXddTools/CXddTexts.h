@@ -19,7 +19,9 @@ public:
     /** The texts of a description. One that is not open has none. */
     explicit CXddTexts(const CXddDocument& document);
     CXddTexts(const CXddTexts&) = delete;
+    CXddTexts(CXddTexts&&) = delete;
     CXddTexts& operator=(const CXddTexts&) = delete;
+    CXddTexts& operator=(CXddTexts&&) = delete;
     ~CXddTexts();
 
     /** The texts of an object or sub-object; none where there is no such entry. */

@@ -5,6 +5,9 @@
 #include "canopen/CDescription.h"
 #include "text/CEncodedText.h"
 #include "text/CXmlTree.h"
+#include "text/Suppressions.h"
+
+#include <vector>
 
 /** What an open document consists of. */
 struct SOpened
@@ -18,7 +21,8 @@ struct SOpened
     CEncodedText encoded; ///< The XDD, which an EDS has been made to
     CXmlTree tree;
     CDescription description;
-    QList<CXddRemark> remarks; ///< What was taken otherwise, left out or found while it was read
+    std::vector<SSuppression> suppressions; ///< Rules that comments switch off
+    QList<CXddRemark> remarks;              ///< What was taken otherwise, left out or found while it was read
 };
 
 /** The parts of a document, which has to be open. */

@@ -240,6 +240,34 @@ QStringList normalized(const QByteArray& text)
     return lines + linesOf(copy.mText);
 }
 
+// The remarks and the text of a copy for publishing, in which the checker finds nothing new.
+QStringList conformed(const QByteArray& text)
+{
+    const CXddDocument document = CXddDocument::open(text);
+    if (!document.isOpen()) {
+        return {failureOf(document)};
+    }
+    const CXddCopy copy = CXddNormalizer::conform(document);
+    const CXddDocument again = CXddDocument::open(copy.mText);
+    QStringList lines;
+    for (const CXddRemark& remark : copy.mRemarks) {
+        lines << QStringLiteral("%1: %2 [%3]").arg(QString::number(remark.mLine), remark.mText, remark.mRule);
+    }
+    if (CXddNormalizer::conform(again).mText != copy.mText) {
+        lines << QStringLiteral("not the same when it is put right again");
+    }
+    QStringList before;
+    for (const CXddRemark& finding : CXddChecker::check(document)) {
+        before << finding.mRule + finding.entry();
+    }
+    for (const CXddRemark& finding : CXddChecker::check(again)) {
+        if (!before.removeOne(finding.mRule + finding.entry())) {
+            lines << QStringLiteral("found in the copy: ") + finding.mText;
+        }
+    }
+    return lines + linesOf(copy.mText);
+}
+
 // What is left out so that the rest of a description can be loaded, and what then is in the records.
 QStringList loadedNormalized(const QByteArray& text)
 {
@@ -331,6 +359,7 @@ const Kinds& kinds()
         {QStringLiteral("normalize"), normalized}, {QStringLiteral("load-normalized"), loadedNormalized},
         {QStringLiteral("check"), checked},        {QStringLiteral("eds"), converted},
         {QStringLiteral("load-eds"), loadedEds},   {QStringLiteral("dbc"), dbc},
+        {QStringLiteral("conform"), conformed},
     };
     return kinds;
 }

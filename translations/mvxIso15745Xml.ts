@@ -243,10 +243,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>A file date is written in another common form, or there is no creation date: yyyy-MM-dd; the modification date or 1970-01-01</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>dates are written yyyy-MM-dd</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2130,6 +2126,34 @@
             <numerusform></numerusform>
         </translation>
     </message>
+    <message>
+        <source>A comment with xddcheck-disable-next-line hides no finding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It may hide a later one unseen. Remove the comment, or correct the name of the rule.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the comment hides nothing of the rule %1 in line %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>that many are there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A file date is written in another common form: yyyy-MM-dd</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no creation date: the modification date or 1970-01-01</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the library demands one</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tools</name>
@@ -2207,6 +2231,16 @@
     </message>
     <message>
         <source>%1 would be written to %2, which leads to the others.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n change(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: An EDS is not put right; xdd2eds writes it clean.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2365,14 +2399,6 @@
         <source>Says what is wrong with CANopen device descriptions.</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>A description; - is standard input.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Print the rules, why they matter and what to do.</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message numerus="yes">
         <source>%n error(s)</source>
         <translation type="unfinished">
@@ -2417,6 +2443,104 @@
     </message>
     <message>
         <source>&apos;%1&apos; is not a rule.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: This is no baseline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: These are no settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a setting: these are %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n finding(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n finding(s) no longer there; --write-baseline takes them out.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no description in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s): </source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>wrong:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>right:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apply these rules only; * stands for any characters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report the findings of a rule as error, warning or note.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report only what is not in the baseline BASE.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write what is found to the baseline BASE instead of reporting it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the settings of INI, not those of the nearest .xddcheck.ini.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take no settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colour severities; auto does so on a terminal, unless NO_COLOR is set.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put right first, in the files, what has one right writing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print the rules as they are in force, why they matter and what to do.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print what a rule is about, with an example.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no severity: these are error, warning and note.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not one of: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only one of --baseline and --write-baseline is allowed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A description, or a folder with descriptions; - is standard input.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2777,18 +2901,8 @@
         <source>Print what is changed in a description, and why.</source>
         <translation type="unfinished"></translation>
     </message>
-    <message numerus="yes">
-        <source>%1: %n change(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
     <message>
         <source>%1: The copy does not load, because of what was left.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Writes copies of CANopen device descriptions for programs that use the strict load of the library. They are not for publishing.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2805,6 +2919,14 @@
     </message>
     <message>
         <source>%1: --in-place does not make an XDD of an EDS. --output writes it to a file of its own, and xdd2eds writes a clean EDS.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes copies of CANopen device descriptions for programs that use the strict load of the library, or for publishing (--conformant).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write copies for publishing: put right what xddcheck finds and has one right writing.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -61,6 +61,16 @@
     </message>
 </context>
 <context>
+    <name>tools</name>
+    <message numerus="yes">
+        <source>%1: %n change(s)</source>
+        <translation>
+            <numerusform>%1: %n change</numerusform>
+            <numerusform>%1: %n changes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>xdd2eds</name>
     <message numerus="yes">
         <source>%1: %n entry(s)</source>
@@ -100,6 +110,27 @@
             <numerusform>%n notes</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%1: %n finding(s)</source>
+        <translation>
+            <numerusform>%1: %n finding</numerusform>
+            <numerusform>%1: %n findings</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n finding(s) no longer there; --write-baseline takes them out.</source>
+        <translation>
+            <numerusform>%1: %n finding no longer there; --write-baseline takes them out.</numerusform>
+            <numerusform>%1: %n findings no longer there; --write-baseline takes them out.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s): </source>
+        <translation>
+            <numerusform>%n file: </numerusform>
+            <numerusform>%n files: </numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>xddinfo</name>
@@ -115,16 +146,6 @@
         <translation>
             <numerusform>%n byte</numerusform>
             <numerusform>%n bytes</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>xddnormalize</name>
-    <message numerus="yes">
-        <source>%1: %n change(s)</source>
-        <translation>
-            <numerusform>%1: %n change</numerusform>
-            <numerusform>%1: %n changes</numerusform>
         </translation>
     </message>
 </context>

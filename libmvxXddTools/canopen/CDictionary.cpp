@@ -1,5 +1,7 @@
 #include "canopen/CDictionary.h"
 
+#include "CCanOpenNames.h"
+
 #include "CXmlValue.h"
 #include "NIso15745Tags.h"
 #include "canopen/DataTypes.h"
@@ -240,6 +242,19 @@ unsigned int CDictionary::typeOfVariable(const SEntry& entry) const
     const SEntry& object = objectOf(entry);
     const bool isElement = entry.isSubObject && object.objectCode == CODE_ARRAY;
     return entry.dataType.value != 0 || !isElement ? entry.dataType.value : object.dataType.value;
+}
+
+QHash<int, std::array<unsigned int, 3>> CDictionary::countsOfLists() const
+{
+    QHash<int, std::array<unsigned int, 3>> counts;
+    for (const std::size_t number : mObjects) {
+        const SEntry& object = mEntries[number];
+        if (object.index) {
+            auto& ofList = counts[object.element.parent().range().begin];
+            ++ofList[std::size_t(CCanOpenNames::objectKind(*object.index))];
+        }
+    }
+    return counts;
 }
 
 const SEntry* CDictionary::entryIn(const CXmlElement& element) const

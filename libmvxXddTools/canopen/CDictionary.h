@@ -11,6 +11,7 @@
 #include <QHash>
 #include <QMap>
 
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -95,6 +96,8 @@ public:
     const SEntry& objectOf(const SEntry& entry) const { return mEntries[entry.object]; }
     /** The data type of an entry; that of its array for an element without one. 0 when there is none. */
     unsigned int typeOfVariable(const SEntry& entry) const;
+    /** How many objects of each kind (CCanOpenNames::EObjectKind) a list has, by where the list begins. */
+    QHash<int, std::array<unsigned int, 3>> countsOfLists() const;
     /** The entry that stands in an element of the file, or null. */
     const SEntry* entryIn(const CXmlElement& element) const;
 

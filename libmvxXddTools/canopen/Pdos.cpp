@@ -115,3 +115,10 @@ std::vector<SPdo> pdosOf(const CDictionary& dictionary)
     }
     return pdos;
 }
+
+unsigned int countOf(const std::vector<SPdo>& pdos, EPdoDirection direction)
+{
+    return unsigned(std::count_if(pdos.begin(), pdos.end(), [direction](const SPdo& pdo) {
+        return pdo.direction == direction && pdo.communication != nullptr;
+    }));
+}

@@ -82,4 +82,7 @@ struct SPdo
 /** Every PDO of a dictionary: the receive PDOs, then the transmit PDOs, each by its number. */
 std::vector<SPdo> pdosOf(const CDictionary& dictionary);
 
+/** How many of the PDOs are of a direction and have communication parameters. */
+unsigned int countOf(const std::vector<SPdo>& pdos, EPdoDirection direction);
+
 #endif

@@ -304,6 +304,8 @@ const CheckRules& CCheckRules::form()
              "A uniqueIDRef refers to nothing. That of an object or sub-object also has to refer to a parameter"),
          QT_TR_NOOP("What the reference should bring, such as the data type, is lost. Fix the ID or remove it."),
          danglingReference},
+        {"unused-suppression", NOTE, QT_TR_NOOP("A comment with xddcheck-disable-next-line hides no finding"),
+         QT_TR_NOOP("It may hide a later one unseen. Remove the comment, or correct the name of the rule."), nullptr},
     };
     return rules;
 }

@@ -10,20 +10,12 @@ using namespace NFormatWords;
 
 namespace
 {
-unsigned int pdoCountOf(const CDescription& description, EPdoDirection direction)
-{
-    const auto& pdos = description.pdos();
-    return unsigned(std::count_if(pdos.begin(), pdos.end(), [&](const SPdo& pdo) {
-        return pdo.direction == direction && pdo.communication != nullptr;
-    }));
-}
-
 void pdoCount(const CDescription& description, CRemarks& findings)
 {
     for (const CXmlElement& features : description.managementElements(TAG_GENERAL_FEATURES)) {
         const auto compare = [&](QLatin1String attribute, EPdoDirection direction) {
             const auto stated = CXmlValue::toNumber(features.attribute(attribute), 10);
-            const unsigned int count = pdoCountOf(description, direction);
+            const unsigned int count = countOf(description.pdos(), direction);
             if (stated && *stated != count) {
                 findings.add(
                     features, CRemarks::tr("%1 is %2, but the number of PDOs is %3"),

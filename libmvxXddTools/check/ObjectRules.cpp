@@ -180,13 +180,7 @@ void subNumber(const CDescription& description, CRemarks& findings)
 void objectCount(const CDescription& description, CRemarks& findings)
 {
     using Kind = CCanOpenNames::EObjectKind;
-    QHash<int, std::array<unsigned int, 3>> foundIn; // By where the list begins
-    forObjects(description, [&](const SEntry& object) {
-        if (object.index) {
-            auto& counts = foundIn[object.element.parent().range().begin];
-            ++counts[std::size_t(CCanOpenNames::objectKind(*object.index))];
-        }
-    });
+    const QHash<int, std::array<unsigned int, 3>> foundIn = description.dictionary().countsOfLists();
     for (const CXmlElement& list : description.objectLists()) {
         const std::array<unsigned int, 3> found = foundIn.value(list.range().begin);
         const auto compare = [&](QLatin1String attribute, Kind kind) {

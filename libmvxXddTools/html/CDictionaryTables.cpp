@@ -46,7 +46,7 @@ QString mappingOf(const CCanOpenSubObject& entry)
                : CCanOpenSubObject::pdoMappingAsStr(entry.mPdoMapping);
 }
 
-QString withoutDigits(QString text)
+QString withoutDigits(const QString& text)
 {
     static const QRegularExpression digits(QStringLiteral("\\d+"));
     return text.left(200).remove(digits);

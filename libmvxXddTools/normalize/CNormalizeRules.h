@@ -24,6 +24,9 @@ public:
     static const NormalizeRules& dictionary();
     static const NormalizeRules& bitRate();
 
+    /** Rules for a copy for publishing, by the IDs of the checker: they put right what has one right writing. */
+    static const NormalizeRules& conform();
+
     /** Rules for a copy that is only loaded: they leave out what has no one meaning, so that the rest can be read. */
     static const NormalizeRules& load();
 };

@@ -90,6 +90,12 @@ void fileDates(const CDescription& description, CXmlEdits& edits)
             const std::optional<QDate> date = dateOf(text);
             date ? edits.rewrite(body, name, date->toString(Qt::ISODate)) : edits.leave(body, name);
         }
+    }
+}
+
+void creationDates(const CDescription& description, CXmlEdits& edits)
+{
+    for (const CXmlElement& body : readBodies(description)) {
         if (body.attribute(ATTR_FILE_CREATION_DATE).trimmed().isEmpty()) {
             const QDate date = dateOf(body.attribute(ATTR_FILE_MODIFICATION_DATE)).value_or(QDate(1970, 1, 1));
             edits.supply(body, {{ATTR_FILE_CREATION_DATE, date.toString(Qt::ISODate)}});
@@ -119,10 +125,10 @@ const NormalizeRules& CNormalizeRules::header()
         {"class", WARNING,
          QT_TR_NOOP("Spaces or other capitals make ProfileClassID an unknown class: it gets that class"),
          QT_TR_NOOP("a profile of an unknown class would not be read"), profileClass},
-        {"file-date", WARNING,
-         QT_TR_NOOP(
-             "A file date is written in another common form, or there is no creation date: yyyy-MM-dd; the modification date or 1970-01-01"),
+        {"file-date", WARNING, QT_TR_NOOP("A file date is written in another common form: yyyy-MM-dd"),
          QT_TR_NOOP("dates are written yyyy-MM-dd"), fileDates},
+        {"creation-date", NOTE, QT_TR_NOOP("There is no creation date: the modification date or 1970-01-01"),
+         QT_TR_NOOP("the library demands one"), creationDates},
         {"file-attribute", NOTE, QT_TR_NOOP("fileCreator, fileName or fileVersion is missing: it gets an empty one"),
          QT_TR_NOOP("a required file attribute that states nothing is empty"), fileAttributes},
     };

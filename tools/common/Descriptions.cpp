@@ -3,6 +3,7 @@
 #include "CCommandLine.h"
 #include "Messages.h"
 
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
@@ -33,4 +34,18 @@ bool isXmlFile(const QString& fileName)
     QFile file(fileName);
     const bool isVisible = QFileInfo(fileName).isFile() && file.open(QIODevice::ReadOnly);
     return !isVisible || CXddDocument::isXml(file.read(beginning));
+}
+
+QStringList descriptionsIn(const QString& folder)
+{
+    const QStringList endings = {
+        QStringLiteral("*.xdd"), QStringLiteral("*.xdc"), QStringLiteral("*.xpd"), QStringLiteral("*.eds"),
+        QStringLiteral("*.dcf")};
+    QStringList names;
+    QDirIterator files(folder, endings, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        names << files.next();
+    }
+    names.sort();
+    return names;
 }

@@ -16,4 +16,7 @@ CXddDocument openDescription(const QString& fileName);
 /** True for a file that begins as XML, or of which nothing can be seen without reading it, such as a pipe. */
 bool isXmlFile(const QString& fileName);
 
+/** The descriptions in a folder and below it, by the endings of their names (xdd, xdc, xpd, eds, dcf), sorted. */
+QStringList descriptionsIn(const QString& folder);
+
 #endif

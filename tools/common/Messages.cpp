@@ -42,15 +42,8 @@ void complain(const QString& text)
 
 void complainAbout(const QString& fileName, const CXddRemark& failure)
 {
-    if (failure.mLine == 0) {
-        complain(fileName + QLatin1String(": ") + failure.mText);
-    } else if (failure.mColumn == 0) {
-        reportLine(place(fileName, failure.mLine) + failure.mText);
-    } else {
-        reportLine(
-            QStringLiteral("%1:%2:%3: ").arg(fileName, QString::number(failure.mLine), QString::number(failure.mColumn))
-            + failure.mText);
-    }
+    const QString text = place(fileName, failure.mLine, failure.mColumn) + failure.mText;
+    failure.mLine == 0 ? complain(text) : reportLine(text);
 }
 
 void reportLine(const QString& text)
@@ -101,7 +94,11 @@ QList<CXddRemark> summedUp(const QList<CXddRemark>& remarks, int most)
     return summary;
 }
 
-QString place(const QString& fileName, int line)
+QString place(const QString& fileName, int line, int column)
 {
-    return line == 0 ? fileName + QLatin1String(": ") : QStringLiteral("%1:%2: ").arg(fileName, QString::number(line));
+    QString text = fileName;
+    for (const int number : {line, line == 0 ? 0 : column}) {
+        text += number == 0 ? QString() : QLatin1Char(':') + QString::number(number);
+    }
+    return text + QLatin1String(": ");
 }

@@ -32,7 +32,7 @@ void reportRemarks(const QString& fileName, const QList<CXddRemark>& remarks);
  * 99". */
 QList<CXddRemark> summedUp(const QList<CXddRemark>& remarks, int most = 10);
 
-/** "FILE:LINE: "; "FILE: " for what is at no line. */
-QString place(const QString& fileName, int line);
+/** "FILE:LINE:COLUMN: " as far as they are known; "FILE: " for what is at no line. */
+QString place(const QString& fileName, int line, int column = 0);
 
 #endif

@@ -50,9 +50,13 @@ QJsonArray shownRules(const QList<CXddRule>& rules)
 
 QJsonObject location(const QString& fileName, const CXddRemark& finding)
 {
+    QJsonObject region = {{key("startLine"), finding.mLine}};
+    if (finding.mColumn > 0) {
+        region[key("startColumn")] = finding.mColumn;
+    }
     const QJsonObject place = {
         {key("artifactLocation"), artifact(fileName)},
-        {key("region"), QJsonObject{{key("startLine"), finding.mLine}}},
+        {key("region"), region},
     };
     QJsonObject location = {{key("physicalLocation"), place}};
     if (!finding.entry().isEmpty()) {

@@ -1,27 +1,18 @@
 #include "CCopyCommandLine.h"
+#include "Copies.h"
 #include "Descriptions.h"
-#include "Files.h"
 #include "Messages.h"
 
 #include <CXddNormalizer.h>
 
 #include <QCoreApplication>
 
-#include <algorithm>
-
 namespace
 {
+const QString CONFORMANT = QStringLiteral("conformant");
 const QString LIST_RULES = QStringLiteral("list-rules");
 
-void reportCopy(const SCopyRequest& request, const QString& fileName, const CXddCopy& copy)
-{
-    reportRemarks(fileName, request.verbose ? copy.mRemarks : summedUp(copy.mRemarks));
-    const auto changes = std::count_if(copy.mRemarks.begin(), copy.mRemarks.end(), [](const CXddRemark& remark) {
-        return remark.mKind == CXddRemark::KIND_CHANGE;
-    });
-    reportLine(QCoreApplication::translate("xddnormalize", "%1: %n change(s)", nullptr, int(changes)).arg(fileName));
-}
-
+// A copy for programs that use the strict load of the library.
 ECopied normalizeFile(const SCopyRequest& request, const QString& fileName)
 {
     const CXddDocument document = openDescription(fileName);
@@ -37,19 +28,13 @@ ECopied normalizeFile(const SCopyRequest& request, const QString& fileName)
         return ECopied::No;
     }
     const CXddCopy copy = CXddNormalizer::normalize(document);
-    if (!request.quiet) {
-        reportCopy(request, fileName, copy);
-    }
-    const bool isNeeded = !request.dryRun && (!request.destination.inPlace || copy.mText != document.bytes());
-    if (isNeeded && !writeFile(request.destination.of(fileName), copy.mText)) {
-        return ECopied::No;
-    }
-    if (!copy.mLoads) {
+    const ECopied written = writeCopy(request, document, copy);
+    if (written == ECopied::Yes && !copy.mLoads) {
         complain(QCoreApplication::translate("xddnormalize", "%1: The copy does not load, because of what was left.")
                      .arg(fileName));
         return ECopied::WithFault;
     }
-    return ECopied::Yes;
+    return written;
 }
 
 int listRules()
@@ -66,8 +51,8 @@ int run(const QStringList& arguments)
     CCopyCommandLine line(
         QCoreApplication::translate(
             "xddnormalize",
-            "Writes copies of CANopen device descriptions for programs that use the strict load of the library. They "
-            "are not for publishing."),
+            "Writes copies of CANopen device descriptions for programs that use the strict load of the library, or for "
+            "publishing (--conformant)."),
         QCoreApplication::translate(
             "xddnormalize",
             "A description; - is standard input. The copy of one goes to standard output unless it is named."),
@@ -79,11 +64,18 @@ int run(const QStringList& arguments)
         QCoreApplication::translate("xddnormalize", "Report no changes."));
     line.addInPlace(QCoreApplication::translate("xddnormalize", "Change the files themselves."));
     line.add(
+        {CONFORMANT},
+        QCoreApplication::translate(
+            "xddnormalize", "Write copies for publishing: put right what xddcheck finds and has one right writing."));
+    line.add(
         {LIST_RULES}, QCoreApplication::translate("xddnormalize", "Print what is changed in a description, and why."));
     if (const std::optional<int> status = line.parse(arguments)) {
         return *status;
     }
-    return line.isSet(LIST_RULES) ? listRules() : line.writeCopies(normalizeFile);
+    if (line.isSet(LIST_RULES)) {
+        return listRules();
+    }
+    return line.isSet(CONFORMANT) ? line.writeCopies(conformFile) : line.writeCopies(normalizeFile);
 }
 } // namespace
 

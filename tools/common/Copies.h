@@ -1,0 +1,18 @@
+#ifndef TOOLS_COPIES_H
+#define TOOLS_COPIES_H
+
+#include "CCopyCommandLine.h"
+
+#include <CXddNormalizer.h>
+
+/** @file
+ * How tools write changed copies of descriptions.
+ */
+
+/** Reports the changes of a copy and writes it where that was asked for; in place only where something changed. */
+ECopied writeCopy(const SCopyRequest& request, const CXddDocument& document, const CXddCopy& copy);
+
+/** Writes a copy for publishing. Refuses EDS files. */
+ECopied conformFile(const SCopyRequest& request, const QString& fileName);
+
+#endif
