@@ -69,13 +69,12 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
 set(CPACK_COMPONENT_TOOLS_DEPENDS runtime)
 set(CPACK_DEBIAN_TOOLS_DESCRIPTION "shows, checks and converts CANopen device descriptions
-xddinfo shows the identity of a device, its bit rates and its object
-dictionary from a description in the XML form of ISO 15745 (CiA 311, xdd), as
-a table or as JSON.
+xddinfo shows the identity of a device, its bit rates, its PDOs and its object
+dictionary from a description (XDD, XDC, EDS, DCF), as a table or as JSON.
 
-xddnormalize brings the descriptions that other tools write into the form that
-the library behind xddinfo reads, xddcheck says what is wrong with them, and
-xdd2eds hands them to the tools that read EDS files.")
+xddcheck says what is wrong with descriptions, xddnormalize puts them right,
+xdd2eds writes them as EDS or DCF, xdd2dbc writes what a network of devices
+sends as a DBC, and xdd2html writes a page for a browser.")
 
 set(CPACK_DEBIAN_DOC_PACKAGE_NAME libmvxiso15745xml-doc)
 set(CPACK_DEBIAN_DOC_PACKAGE_SECTION doc)
