@@ -207,6 +207,17 @@ quint64 bitsOf(const SDbcSignal& signal)
     return ones << unsigned(signal.start);
 }
 
+// The signal of a message with the bits of another one, or null.
+SDbcSignal* signalWithBitsOf(const SDbcSignal& signal, SDbcMessage& message)
+{
+    for (SDbcSignal& other : message.signalList) {
+        if (other.start == signal.start && other.bits == signal.bits) {
+            return &other;
+        }
+    }
+    return nullptr;
+}
+
 bool areReadAlike(const SDbcSignal& left, const SDbcSignal& right)
 {
     return left.isSigned == right.isSigned && left.isReal == right.isReal && left.factor == right.factor
@@ -367,11 +378,8 @@ void CDbcNetwork::addReceiver(SEntered& entered, SNode& node, const CXddPdo& pdo
 {
     const SPlace place = placeOf(pdo, node.description.dictionary());
     for (const SDbcSignal& signal : signalsOfPdo(node, pdo)) {
-        QVector<SDbcSignal>& known = entered.message.signalList;
-        auto* const same = std::find_if(known.begin(), known.end(), [&signal](const SDbcSignal& other) {
-            return other.start == signal.start && other.bits == signal.bits;
-        });
-        if (same != known.end()) {
+        SDbcSignal* const same = signalWithBitsOf(signal, entered.message);
+        if (same != nullptr) {
             same->receivers << signal.receivers;
             same->receivers.removeDuplicates();
             if (!areReadAlike(*same, signal)) {

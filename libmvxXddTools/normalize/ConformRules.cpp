@@ -182,7 +182,7 @@ void subNumbers(const CDescription& description, CXmlEdits& edits)
 
 void objectCounts(const CDescription& description, CXmlEdits& edits)
 {
-    using Kind = CCanOpenNames::EObjectKind;
+    using EKind = CCanOpenNames::EObjectKind;
     const auto& entries = description.dictionary().entries();
     if (std::any_of(entries.begin(), entries.end(), [](const SEntry& entry) { return !entry.index; })) {
         return; // It may be of any kind
@@ -190,9 +190,9 @@ void objectCounts(const CDescription& description, CXmlEdits& edits)
     const auto countsOf = description.dictionary().countsOfLists();
     for (const CXmlElement& list : description.objectLists()) {
         const std::array<unsigned int, 3> counts = countsOf.value(list.range().begin);
-        recount(list, ATTR_MANDATORY_OBJECTS, counts[std::size_t(Kind::Mandatory)], edits);
-        recount(list, ATTR_OPTIONAL_OBJECTS, counts[std::size_t(Kind::Optional)], edits);
-        recount(list, ATTR_MANUFACTURER_OBJECTS, counts[std::size_t(Kind::Manufacturer)], edits);
+        recount(list, ATTR_MANDATORY_OBJECTS, counts[std::size_t(EKind::Mandatory)], edits);
+        recount(list, ATTR_OPTIONAL_OBJECTS, counts[std::size_t(EKind::Optional)], edits);
+        recount(list, ATTR_MANUFACTURER_OBJECTS, counts[std::size_t(EKind::Manufacturer)], edits);
     }
 }
 

@@ -93,7 +93,7 @@ void fileDates(const CDescription& description, CXmlEdits& edits)
     }
 }
 
-void creationDates(const CDescription& description, CXmlEdits& edits)
+void missingCreationDates(const CDescription& description, CXmlEdits& edits)
 {
     for (const CXmlElement& body : readBodies(description)) {
         if (body.attribute(ATTR_FILE_CREATION_DATE).trimmed().isEmpty()) {
@@ -128,7 +128,7 @@ const NormalizeRules& CNormalizeRules::header()
         {"file-date", WARNING, QT_TR_NOOP("A file date is written in another common form: yyyy-MM-dd"),
          QT_TR_NOOP("dates are written yyyy-MM-dd"), fileDates},
         {"creation-date", NOTE, QT_TR_NOOP("There is no creation date: the modification date or 1970-01-01"),
-         QT_TR_NOOP("the library demands one"), creationDates},
+         QT_TR_NOOP("the library demands one"), missingCreationDates},
         {"file-attribute", NOTE, QT_TR_NOOP("fileCreator, fileName or fileVersion is missing: it gets an empty one"),
          QT_TR_NOOP("a required file attribute that states nothing is empty"), fileAttributes},
     };

@@ -15,7 +15,7 @@
 namespace
 {
 const QString NAME = QStringLiteral(".xddcheck.ini");
-const QString DISABLE = QStringLiteral("disable");
+const QString DISABLE_KEY = QStringLiteral("disable");
 const QStringList SEVERITIES = {QStringLiteral("error"), QStringLiteral("warning"), QStringLiteral("note")};
 
 // Where a key stands in a file, which QSettings does not tell; 0 where that is not found.
@@ -59,7 +59,7 @@ QString CSettings::apply(const QString& fileName, CRuleChoice& choice)
     const QString path = QDir(file.folder).relativeFilePath(QFileInfo(fileName).absoluteFilePath());
     for (const SEntry& entry : file.entries) {
         for (const QString& pattern : isNamed(entry.files, path) ? entry.patterns : QStringList()) {
-            if (entry.key == DISABLE) {
+            if (entry.key == DISABLE_KEY) {
                 choice.disable(pattern);
             } else {
                 choice.setSeverity(pattern, entry.key);
@@ -113,16 +113,17 @@ CSettings::SFile CSettings::read(const QString& fileName)
         for (const QString& text : values.join(QLatin1Char(',')).split(QLatin1Char(','), Qt::SkipEmptyParts)) {
             entry.patterns << text.trimmed();
         }
-        const bool isKey = entry.key == DISABLE || SEVERITIES.contains(entry.key);
+        const bool isKey = entry.key == DISABLE_KEY || SEVERITIES.contains(entry.key);
         const auto wrong =
             std::find_if(entry.patterns.begin(), entry.patterns.end(), [&choice](const QString& pattern) {
                 return !choice.isKnown(pattern);
             });
         if (!isKey || wrong != entry.patterns.end()) {
-            file.error = place(fileName, entry.line)
-                         + (isKey ? QCoreApplication::translate("xddcheck", "'%1' is not a rule.").arg(*wrong)
-                                  : QCoreApplication::translate("xddcheck", "'%1' is not a setting: these are %2.")
-                                        .arg(entry.key, (QStringList{DISABLE} + SEVERITIES).join(QLatin1String(", "))));
+            file.error =
+                place(fileName, entry.line)
+                + (isKey ? QCoreApplication::translate("xddcheck", "'%1' is not a rule.").arg(*wrong)
+                         : QCoreApplication::translate("xddcheck", "'%1' is not a setting: these are %2.")
+                               .arg(entry.key, (QStringList{DISABLE_KEY} + SEVERITIES).join(QLatin1String(", "))));
             return file;
         }
         file.entries << entry;
