@@ -2,8 +2,7 @@
 
 #include "CCanOpenNames.h"
 #include "canopen/Pdos.h"
-
-#include <QCoreApplication>
+#include "remarks/CRemarks.h"
 
 CXddPdoField::CXddPdoField() = default;
 
@@ -37,35 +36,30 @@ unsigned int CXddPdo::communicationIndex() const
 QString CXddPdo::canIdText() const
 {
     const QString canId = hexadecimalText(mCanId, mIsExtended ? 8 : 3);
-    return mNodeId == 0 && mUsesNodeId ? QCoreApplication::translate("mvxXddTools", "%1+node-ID").arg(canId) : canId;
+    return mNodeId == 0 && mUsesNodeId ? CRemarks::tr("%1+node-ID").arg(canId) : canId;
 }
 
 QString CXddPdo::transmissionText() const
 {
-    const auto tr = [](const char* text) {
-        return QCoreApplication::translate("mvxXddTools", text);
-    };
     switch (mTransmission) {
     case TRANSMISSION_NOT_STATED:
         break;
     case TRANSMISSION_ACYCLIC:
-        return mIsTransmit ? tr(QT_TRANSLATE_NOOP("mvxXddTools", "with the SYNC after an event"))
-                           : tr(QT_TRANSLATE_NOOP("mvxXddTools", "with the next SYNC"));
+        return mIsTransmit ? CRemarks::tr("with the SYNC after an event") : CRemarks::tr("with the next SYNC");
     case TRANSMISSION_CYCLIC:
-        return !mIsTransmit ? tr(QT_TRANSLATE_NOOP("mvxXddTools", "with the next SYNC"))
-               : mTransmissionType == 1U
-                   ? tr(QT_TRANSLATE_NOOP("mvxXddTools", "with every SYNC"))
-                   : tr(QT_TRANSLATE_NOOP("mvxXddTools", "once every %1 SYNCs")).arg(*mTransmissionType);
+        return !mIsTransmit              ? CRemarks::tr("with the next SYNC")
+               : mTransmissionType == 1U ? CRemarks::tr("with every SYNC")
+                                         : CRemarks::tr("once every %1 SYNCs").arg(*mTransmissionType);
     case TRANSMISSION_RESERVED:
-        return tr(QT_TRANSLATE_NOOP("mvxXddTools", "reserved"));
+        return CRemarks::tr("reserved");
     case TRANSMISSION_REQUEST_SYNC:
-        return tr(QT_TRANSLATE_NOOP("mvxXddTools", "on request, sampled with the SYNC"));
+        return CRemarks::tr("on request, sampled with the SYNC");
     case TRANSMISSION_REQUEST:
-        return tr(QT_TRANSLATE_NOOP("mvxXddTools", "on request"));
+        return CRemarks::tr("on request");
     case TRANSMISSION_EVENT_MANUFACTURER:
-        return tr(QT_TRANSLATE_NOOP("mvxXddTools", "on an event of the manufacturer"));
+        return CRemarks::tr("on an event of the manufacturer");
     case TRANSMISSION_EVENT_PROFILE:
-        return tr(QT_TRANSLATE_NOOP("mvxXddTools", "on an event of the device profile"));
+        return CRemarks::tr("on an event of the device profile");
     }
     return QString();
 }

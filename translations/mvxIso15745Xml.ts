@@ -2154,6 +2154,42 @@
         <source>the library demands one</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>with the SYNC after an event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with the next SYNC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with every SYNC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>once every %1 SYNCs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>on request, sampled with the SYNC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>on request</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>on an event of the manufacturer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>on an event of the device profile</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tools</name>
@@ -2242,6 +2278,18 @@
     <message>
         <source>%1: An EDS is not put right; xdd2eds writes it clean.</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, and %n more like this</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, and %n more like this up to line %2</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -69,6 +69,20 @@
             <numerusform>%1: %n changes</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%1, and %n more like this</source>
+        <translation>
+            <numerusform>%1, and %n more like this</numerusform>
+            <numerusform>%1, and %n more like this</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, and %n more like this up to line %2</source>
+        <translation>
+            <numerusform>%1, and %n more like this up to line %2</numerusform>
+            <numerusform>%1, and %n more like this up to line %2</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>xdd2eds</name>

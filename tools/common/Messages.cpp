@@ -81,13 +81,13 @@ QList<CXddRemark> summedUp(const QList<CXddRemark>& remarks, int most)
         }
         if (group.count > most) {
             group.isSummedUp = true;
-            remark.mText =
-                group.lastLine == 0
-                    ? QCoreApplication::translate("tools", "%1, and %n more like this", nullptr, group.count - 1)
-                          .arg(remark.mText)
-                    : QCoreApplication::translate(
-                          "tools", "%1, and %n more like this up to line %2", nullptr, group.count - 1)
-                          .arg(remark.mText, QString::number(group.lastLine));
+            const int others = group.count - 1;
+            QString more = QCoreApplication::translate("tools", "%1, and %n more like this", nullptr, others);
+            if (group.lastLine != 0) {
+                more = QCoreApplication::translate("tools", "%1, and %n more like this up to line %2", nullptr, others);
+            }
+            const QString line = QString::number(group.lastLine);
+            remark.mText = group.lastLine == 0 ? more.arg(remark.mText) : more.arg(remark.mText, line);
         }
         summary << remark;
     }
