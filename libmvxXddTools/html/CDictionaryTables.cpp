@@ -1,7 +1,6 @@
 #include "html/CDictionaryTables.h"
 
 #include "CCanOpenNames.h"
-#include "canopen/ObjectCodes.h"
 
 #include <QRegularExpression>
 
@@ -25,26 +24,6 @@ constexpr qint64 LEAST_TEXTS = 100000;
 
 constexpr unsigned int FIRST_PDO_OBJECT = 0x1400;
 constexpr unsigned int LAST_PDO_OBJECT = 0x1BFF;
-
-QString typeOf(const CCanOpenSubObject& entry)
-{
-    return entry.mObjectType == CODE_VAR && entry.mDataType != 0 ? CCanOpenNames::dataType(entry.mDataType)
-                                                                 : CCanOpenNames::objectCode(entry.mObjectType);
-}
-
-QString accessOf(const CCanOpenSubObject& entry)
-{
-    return entry.mAccessType == CCanOpenSubObject::OBJ_ACCESS_INVALID
-               ? QString()
-               : CCanOpenSubObject::accessTypeAsStr(entry.mAccessType);
-}
-
-QString mappingOf(const CCanOpenSubObject& entry)
-{
-    return entry.mPdoMapping == CCanOpenSubObject::OBJ_MAP_INVALID
-               ? QString()
-               : CCanOpenSubObject::pdoMappingAsStr(entry.mPdoMapping);
-}
 
 QString withoutDigits(const QString& text)
 {
@@ -232,7 +211,7 @@ void CDictionaryTables::writeRow(
     mHtml.open("tr", {{"id", id}});
     mHtml.open("td").link(id, address).close();
     writeName(index, subIndex, entry);
-    mHtml.element("td", typeOf(entry)).element("td", accessOf(entry));
+    mHtml.element("td", CCanOpenNames::type(entry)).element("td", CCanOpenNames::access(entry));
     writePdo(address, entry);
     writeDefault(entry);
     mHtml.element("td", rangeText(entry)).close().line();
@@ -344,7 +323,7 @@ void CDictionaryTables::writeFindings(unsigned int index, std::optional<unsigned
 // What it may be mapped to, or the PDOs that carry it.
 void CDictionaryTables::writePdo(const QString& address, const CCanOpenSubObject& entry)
 {
-    mHtml.open("td").text(mappingOf(entry));
+    mHtml.open("td").text(CCanOpenNames::mapping(entry));
     for (const QString& pdo : mPdos.value(address)) {
         mHtml.text(QStringLiteral(" ")).link(pdo, pdo);
     }

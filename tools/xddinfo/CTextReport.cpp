@@ -11,27 +11,8 @@
 
 namespace
 {
-// The object code of a variable.
-constexpr unsigned int VARIABLE = 7;
-
 // As many PDOs of one direction are shown with what they map; a device can have 512.
 constexpr int MAX_SHOWN_PDOS = 16;
-
-// The invalid enumerators are shown as nothing.
-
-QString accessShown(const CCanOpenSubObject& entry)
-{
-    return entry.mAccessType == CCanOpenSubObject::OBJ_ACCESS_INVALID
-               ? QString()
-               : CCanOpenSubObject::accessTypeAsStr(entry.mAccessType);
-}
-
-QString mappingShown(const CCanOpenSubObject& entry)
-{
-    return entry.mPdoMapping == CCanOpenSubObject::OBJ_MAP_INVALID
-               ? QString()
-               : CCanOpenSubObject::pdoMappingAsStr(entry.mPdoMapping);
-}
 
 QString joined(const QStringList& texts, const QString& separator)
 {
@@ -53,15 +34,6 @@ QString rateShown(CNetworkCanOpenProfile::EBaudrate rate)
     }
 }
 
-// What kind of entry it is: the data type of a variable, else the object code.
-QString typeShown(const CCanOpenSubObject& entry, bool isShort)
-{
-    if (entry.mObjectType != VARIABLE || entry.mDataType == 0) {
-        return CCanOpenNames::objectCode(entry.mObjectType);
-    }
-    return isShort ? CCanOpenNames::shortDataType(entry.mDataType) : CCanOpenNames::dataType(entry.mDataType);
-}
-
 CTable dictionaryTable(const QMap<unsigned int, CCanOpenObject>& objects, bool isShort)
 {
     CTable table({
@@ -77,9 +49,9 @@ CTable dictionaryTable(const QMap<unsigned int, CCanOpenObject>& objects, bool i
     });
     const auto addRow = [&](const QString& address, const QString& indent, const CCanOpenSubObject& entry) {
         table.addRow(
-            {address, indent + printable(entry.mName), typeShown(entry, isShort), accessShown(entry),
-             mappingShown(entry), printable(entry.mDefaultValue), printable(entry.mActualValue),
-             printable(entry.mLowLimit), printable(entry.mHighLimit)});
+            {address, indent + printable(entry.mName), CCanOpenNames::type(entry, isShort),
+             CCanOpenNames::access(entry), CCanOpenNames::mapping(entry), printable(entry.mDefaultValue),
+             printable(entry.mActualValue), printable(entry.mLowLimit), printable(entry.mHighLimit)});
     };
     for (const CCanOpenObject& object : objects) {
         addRow(CCanOpenNames::entry(object.mIndex), QString(), object);
@@ -246,8 +218,8 @@ void CTextReport::showFields(const CCanOpenSubObject& entry, const QString& inde
     showField(indent, tr("Name"), entry.mName);
     showField(indent, tr("Object"), CCanOpenNames::objectCode(entry.mObjectType));
     showField(indent, tr("Data type"), CCanOpenNames::dataType(entry.mDataType));
-    showField(indent, tr("Access"), accessShown(entry));
-    showField(indent, tr("PDO mapping"), mappingShown(entry));
+    showField(indent, tr("Access"), CCanOpenNames::access(entry));
+    showField(indent, tr("PDO mapping"), CCanOpenNames::mapping(entry));
     showField(indent, tr("Default value"), entry.mDefaultValue);
     showField(indent, tr("Actual value"), entry.mActualValue);
     showField(indent, tr("Low limit"), entry.mLowLimit);
