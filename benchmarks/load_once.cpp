@@ -3,6 +3,7 @@
 #include <CXddChecker.h>
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
+#include <CXddPage.h>
 #include <ICIso15745.h>
 
 #include <QDomDocument>
@@ -19,8 +20,8 @@
 // Measures loading against parsing alone. Usage:
 //   load_once write OBJECTS FILE        writes a description
 //   load_once (eds|xdd) SOURCE FILE     writes an EDS or a normalised XDD of a description
-//   load_once (floor|load|open|check|document) TIMES FILE
-//                                       parses it, loads it, loads it normalised, checks it, or only opens it so often,
+//   load_once (floor|load|open|check|page|document) TIMES FILE
+//                                       parses it, loads it, loads it normalised, checks it, writes its page, or only opens it so often,
 //                                       for callgrind and for the peak of memory
 //   load_once pairs TIMES FILE          does both in turn and prints the median ratio of their times
 
@@ -51,6 +52,14 @@ void openAny(const QString& fileName)
     CXddRemark failure;
     if (!CXddNormalizer::load(CXddDocument::openFile(fileName), *reader, remarks, failure)) {
         qFatal("%s", qUtf8Printable(failure.mText));
+    }
+}
+
+// Writes the page of a description.
+void writePage(const QString& fileName)
+{
+    if (CXddPage::write(CXddDocument::openFile(fileName), {}).mText.isEmpty()) {
+        qFatal("No page of %s", qUtf8Printable(fileName));
     }
 }
 
@@ -99,7 +108,7 @@ double medianRatio(int times, const QString& fileName)
 int main(int argc, char* argv[])
 {
     if (argc != 4) {
-        std::fprintf(stderr, "usage: load_once (write|eds|xdd|floor|load|open|check|document|pairs) NUMBER FILE\n");
+        std::fprintf(stderr, "usage: load_once (write|eds|xdd|floor|load|open|check|page|document|pairs) NUMBER FILE\n");
         return 2;
     }
     const QByteArray what = argv[1];
@@ -122,6 +131,7 @@ int main(int argc, char* argv[])
     const auto work = what == "load"       ? load
                       : what == "open"     ? openAny
                       : what == "check"    ? check
+                      : what == "page"     ? writePage
                       : what == "document" ? openDocument
                                            : parse;
     for (int i = 0; i < number; ++i) {

@@ -58,7 +58,8 @@ QString CBaseline::read()
     if (error.error != QJsonParseError::NoError || !findings.isArray()) {
         return QCoreApplication::translate("xddcheck", "%1: This is no baseline.").arg(mFileName);
     }
-    for (const QJsonValue& value : findings.toArray()) {
+    const QJsonArray array = findings.toArray();
+    for (const auto& value : array) {
         const QJsonObject one = value.toObject();
         const SKey key = {
             one.value(FILE_KEY).toString(), one.value(RULE).toString(), one.value(ENTRY).toString(),

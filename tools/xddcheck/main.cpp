@@ -76,7 +76,7 @@ struct SOutputs
 // A severity, coloured as compilers do it.
 QString severityShown(CXddRemark::ESeverity severity, bool hasColors)
 {
-    const QString text = CXddRemark::severityAsStr(severity);
+    QString text = CXddRemark::severityAsStr(severity);
     if (!hasColors) {
         return text;
     }
@@ -154,7 +154,7 @@ struct SCounts
 // cannot be understood.
 QString chooseRules(SRequest& request, const QString& fileName, CRuleChoice& choice)
 {
-    const QString error = request.settings.apply(fileName, choice);
+    QString error = request.settings.apply(fileName, choice);
     if (!request.only.isEmpty()) {
         choice.only(request.only);
     }
