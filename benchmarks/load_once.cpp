@@ -21,8 +21,8 @@
 //   load_once write OBJECTS FILE        writes a description
 //   load_once (eds|xdd) SOURCE FILE     writes an EDS or a normalised XDD of a description
 //   load_once (floor|load|open|check|page|document) TIMES FILE
-//                                       parses it, loads it, loads it normalised, checks it, writes its page, or only opens it so often,
-//                                       for callgrind and for the peak of memory
+//                                       parses it, loads it, loads it normalised, checks it, writes its page, or only
+//                                       opens it so often, for callgrind and for the peak of memory
 //   load_once pairs TIMES FILE          does both in turn and prints the median ratio of their times
 
 namespace
@@ -108,7 +108,8 @@ double medianRatio(int times, const QString& fileName)
 int main(int argc, char* argv[])
 {
     if (argc != 4) {
-        std::fprintf(stderr, "usage: load_once (write|eds|xdd|floor|load|open|check|page|document|pairs) NUMBER FILE\n");
+        std::fprintf(
+            stderr, "usage: load_once (write|eds|xdd|floor|load|open|check|page|document|pairs) NUMBER FILE\n");
         return 2;
     }
     const QByteArray what = argv[1];

@@ -351,8 +351,20 @@ QString CDictionaryTables::rangeText(const CCanOpenSubObject& entry) const
     return mUnit.isEmpty() ? range : QStringLiteral("%1 [%2]").arg(range, mUnit).trimmed();
 }
 
+// What the description says of a sub-object, but for numbers.
+QString CDictionaryTables::saidOf(unsigned int index, unsigned int subIndex)
+{
+    const SEntry* const entry = mPage.description.dictionary().subObject(index, subIndex);
+    const CXddEntryTexts texts = entry == nullptr ? CXddEntryTexts() : mTexts.of(*entry);
+    QString said = CXddLabel::chosen(texts.mUnits, mPage.language);
+    for (const QList<CXddLabel>& labels : {texts.mLabels, texts.mDescriptions}) {
+        said += QLatin1Char(' ') + withoutDigits(CXddLabel::chosen(labels, mPage.language));
+    }
+    return texts.mAllowedValues.isEmpty() ? said : QString::number(subIndex); // Values are not compared
+}
+
 // Two sub-objects that differ in their numbers at most, and of which nothing more is said.
-bool CDictionaryTables::isAlike(const CCanOpenObject& object, int left, int right) const
+bool CDictionaryTables::isAlike(const CCanOpenObject& object, int left, int right)
 {
     const CCanOpenSubObject& one = object.mSubObjects[left];
     const CCanOpenSubObject& other = object.mSubObjects[right];
@@ -360,8 +372,10 @@ bool CDictionaryTables::isAlike(const CCanOpenObject& object, int left, int righ
            && one.mAccessType == other.mAccessType && one.mPdoMapping == other.mPdoMapping
            && one.mDefaultValue == other.mDefaultValue && one.mActualValue == other.mActualValue
            && one.mLowLimit == other.mLowLimit && one.mHighLimit == other.mHighLimit
-           && one.mUniqueIdRef == other.mUniqueIdRef && one.mDenotation == other.mDenotation
+           && one.mDenotation == other.mDenotation
            && !mFindings.contains(CCanOpenNames::entry(object.mIndex, other.mIndex))
            && !mPdos.contains(CCanOpenNames::entry(object.mIndex, other.mIndex))
-           && withoutDigits(one.mName) == withoutDigits(other.mName);
+           && withoutDigits(one.mName) == withoutDigits(other.mName)
+           && (one.mUniqueIdRef == other.mUniqueIdRef
+               || saidOf(object.mIndex, one.mIndex) == saidOf(object.mIndex, other.mIndex));
 }

@@ -52,7 +52,8 @@ private:
     void writePdo(const QString& address, const CCanOpenSubObject& entry);
     void writeDefault(const CCanOpenSubObject& entry);
     QString rangeText(const CCanOpenSubObject& entry) const;
-    bool isAlike(const CCanOpenObject& object, int left, int right) const;
+    QString saidOf(unsigned int index, unsigned int subIndex);
+    bool isAlike(const CCanOpenObject& object, int left, int right);
 
     CHtml& mHtml;
     const SPage& mPage;
