@@ -48,7 +48,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(again.isOpen() && CXddNormalizer::normalize(again).mText == copy.mText);
     const CXddCopy right = CXddNormalizer::conform(document);
     const CXddDocument rightAgain = CXddDocument::open(right.mText);
-    require(rightAgain.isOpen() && CXddNormalizer::conform(rightAgain).mText == right.mText);
+    const bool isXdd = document.form() == CXddDocument::FORM_XDD;
+    require(rightAgain.isOpen() && (!isXdd || CXddNormalizer::conform(rightAgain).mText == right.mText));
     const CXddEds eds = CXddEdsWriter::write(document);
     requireSound(eds.mLosses, lines);
     require(eds.mIncomplete <= eds.mEntries);
