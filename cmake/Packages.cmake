@@ -20,6 +20,7 @@ endif()
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_VENDOR "libmvxIso15745Xml")
 set(CPACK_PACKAGE_CONTACT "libmvxIso15745Xml maintainers <maintainers@libmvxiso15745xml.example>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # Would stand in front of every description, as the synopsis of all packages
 set(CPACK_COMPONENTS_ALL ${components})
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_VERBATIM_VARIABLES ON)
