@@ -19,6 +19,14 @@ bool isShownByNumber(uint character)
         return QChar::isNonCharacter(character);
     }
 }
+
+// The character at a place, and how many units of the text it takes.
+std::pair<uint, int> characterAt(const QString& text, int at)
+{
+    const bool isPair = text.at(at).isHighSurrogate() && at + 1 < text.size() && text.at(at + 1).isLowSurrogate();
+    return isPair ? std::make_pair(QChar::surrogateToUcs4(text.at(at), text.at(at + 1)), 2)
+                  : std::make_pair(uint(text.at(at).unicode()), 1);
+}
 } // namespace
 
 CHtml::CHtml()
@@ -60,9 +68,7 @@ CHtml& CHtml::text(const QString& text)
     int begin = 0;
     int at = 0;
     while (at < text.size()) {
-        const bool isPair = text.at(at).isHighSurrogate() && at + 1 < text.size() && text.at(at + 1).isLowSurrogate();
-        const uint character = isPair ? QChar::surrogateToUcs4(text.at(at), text.at(at + 1)) : text.at(at).unicode();
-        const int length = isPair ? 2 : 1;
+        const auto [character, length] = characterAt(text, at);
         if (isShownByNumber(character)) {
             mWriter.writeCharacters(text.mid(begin, at - begin));
             const QString number = QString::number(character, 16).toUpper().rightJustified(4, QLatin1Char('0'));
@@ -108,4 +114,15 @@ QString noValue()
 QString cutForPage(const QString& text)
 {
     return CRemarks::cut(text);
+}
+
+QString visibleText(const QString& text)
+{
+    QString visible;
+    for (int at = 0; at < text.size();) {
+        const auto [character, length] = characterAt(text, at);
+        visible += isShownByNumber(character) ? QString() : text.mid(at, length);
+        at += length;
+    }
+    return visible;
 }

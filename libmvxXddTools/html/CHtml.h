@@ -52,6 +52,9 @@ private:
 /** The value of an attribute that has none, such as "hidden". */
 QString noValue();
 
+/** A text without the characters that are shown by their numbers, for places that take no elements. */
+QString visibleText(const QString& text);
+
 /** A text of a file as a page shows it: one of more than 200 characters is cut. */
 QString cutForPage(const QString& text);
 

@@ -110,7 +110,7 @@ void CPageWriter::begin(CHtml& html, const QString& title, const QString& langua
             "meta",
             {{"name", QStringLiteral("viewport")}, {"content", QStringLiteral("width=device-width, initial-scale=1")}})
         .line();
-    html.element("title", title).line();
+    html.element("title", visibleText(title)).line();
     html.raw("style", css).line().close().line().open("body").line();
 }
 
