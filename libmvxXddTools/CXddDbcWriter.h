@@ -14,6 +14,7 @@ class MVXXDDTOOLS_EXPORT CXddNode
 public:
     /** A device without a description and a node-ID. */
     CXddNode();
+    /** A device with its description, which has to be open, and its node-ID. */
     CXddNode(const CXddDocument& document, unsigned int nodeId);
 
     CXddDocument mDocument;   ///< Its description, which has to be open

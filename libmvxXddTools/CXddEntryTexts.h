@@ -10,14 +10,16 @@
 class MVXXDDTOOLS_EXPORT CXddLabel
 {
 public:
+    /** No text. */
     CXddLabel();
+    /** A text in a language. */
     CXddLabel(const QString& language, const QString& text);
 
     /** The texts in a language such as "de", else those in English, else all; several are separated by "; ". */
     static QString chosen(const QList<CXddLabel>& labels, const QString& language);
 
     QString mLanguage; ///< "lang", such as "en" or "de-AT"; empty where none is stated
-    QString mText;
+    QString mText;     ///< The text, with single blanks
 };
 
 /** A value that an entry may have, or a range of values. */

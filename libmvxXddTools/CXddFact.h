@@ -9,7 +9,9 @@
 class MVXXDDTOOLS_EXPORT CXddFact
 {
 public:
+    /** Nothing. */
     CXddFact();
+    /** A value under its name. */
     CXddFact(const QString& name, const QString& value);
 
     QString mName;  ///< In the language of the program, such as "Vendor"

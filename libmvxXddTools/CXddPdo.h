@@ -97,14 +97,14 @@ public:
     bool mUsesNodeId = false;       ///< The CAN-ID depends on the node-ID
     bool mAllowsRtr = false;        ///< It is sent on a remote request: bit 30 of the COB-ID is not set
     bool mIsMultiplexed = false;    ///< Its data name the entry that they carry
-    std::optional<unsigned int> mTransmissionType; ///< Sub-index 2
-    ETransmission mTransmission = TRANSMISSION_NOT_STATED;
-    unsigned int mInhibitTime = 0; ///< Shortest time between two, in microseconds; 0 for none
-    unsigned int mEventTimer = 0;  ///< Longest time between two, in milliseconds; 0 for none. A deadline where received
-    unsigned int mSyncStart = 0;   ///< Value of the SYNC counter with which it begins; 0 for any
-    QList<CXddPdoField> mFields;   ///< What it carries, in order
-    QList<CXddPdoField> mBeyond;   ///< What is mapped behind it and does not fit into its 64 bits
-    QList<CXddRemark> mRemarks;    ///< What was left out or taken otherwise, and what is doubtful
+    std::optional<unsigned int> mTransmissionType;         ///< Sub-index 2
+    ETransmission mTransmission = TRANSMISSION_NOT_STATED; ///< What that type means
+    unsigned int mInhibitTime = 0;                         ///< Shortest time between two, in microseconds; 0 for none
+    unsigned int mEventTimer = 0; ///< Longest time between two, in milliseconds; 0 for none. A deadline where received
+    unsigned int mSyncStart = 0;  ///< Value of the SYNC counter with which it begins; 0 for any
+    QList<CXddPdoField> mFields;  ///< What it carries, in order
+    QList<CXddPdoField> mBeyond;  ///< What is mapped behind it and does not fit into its 64 bits
+    QList<CXddRemark> mRemarks;   ///< What was left out or taken otherwise, and what is doubtful
 };
 
 #endif
