@@ -1,7 +1,7 @@
 # What every target of the project has in common.
 
-# Language level, warnings and the Qt definitions that keep conversions explicit. All of it is private: a program that
-# links the library keeps its own settings.
+# Language level, warnings and the Qt definitions that keep conversions explicit. But for the language level all is
+# private: a program that links the library keeps its own settings.
 function(mvx_target_defaults target)
     target_compile_features(${target} PUBLIC cxx_std_17)
     set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)

@@ -41,7 +41,7 @@ bool isDigit(QChar character)
 }
 
 // True when the text has the length of the pattern, a digit wherever the pattern has a 9, and is equal elsewhere.
-// Qt's own ISO conversions are checked with it because they accept other separators and trailing text.
+// Qt's own conversions of dates and times accept other separators and trailing text.
 bool matches(const QString& text, QLatin1String pattern)
 {
     return std::equal(text.begin(), text.end(), pattern.begin(), pattern.end(), [](QChar character, char expected) {
