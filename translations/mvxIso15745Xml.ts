@@ -2078,12 +2078,6 @@
         <source>Entry</source>
         <translation type="unfinished"></translation>
     </message>
-    <message numerus="yes">
-        <source>%n PDO(s) that map nothing</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
     <message>
         <source>State</source>
         <translation type="unfinished"></translation>
@@ -2189,6 +2183,12 @@
     <message>
         <source>on an event of the device profile</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n PDO(s) with nothing mapped</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>

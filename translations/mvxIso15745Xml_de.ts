@@ -2084,13 +2084,6 @@
         <source>Entry</source>
         <translation>Eintrag</translation>
     </message>
-    <message numerus="yes">
-        <source>%n PDO(s) that map nothing</source>
-        <translation>
-            <numerusform>%n PDO, das nichts abbildet</numerusform>
-            <numerusform>%n PDOs, die nichts abbilden</numerusform>
-        </translation>
-    </message>
     <message>
         <source>State</source>
         <translation>Zustand</translation>
@@ -2197,6 +2190,13 @@
     <message>
         <source>on an event of the device profile</source>
         <translation>bei einem Ereignis des Geräteprofils</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n PDO(s) with nothing mapped</source>
+        <translation>
+            <numerusform>%n PDO, das nichts abbildet</numerusform>
+            <numerusform>%n PDOs, die nichts abbilden</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -46,17 +46,17 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n PDO(s) that map nothing</source>
-        <translation>
-            <numerusform>%n PDO that map nothing</numerusform>
-            <numerusform>%n PDOs that map nothing</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>and %n more</source>
         <translation>
             <numerusform>and %n more</numerusform>
             <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n PDO(s) with nothing mapped</source>
+        <translation>
+            <numerusform>%n PDO with nothing mapped</numerusform>
+            <numerusform>%n PDOs with nothing mapped</numerusform>
         </translation>
     </message>
 </context>

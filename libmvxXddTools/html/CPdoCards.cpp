@@ -250,7 +250,7 @@ void CPdoCards::writeOthers(const QList<CXddPdo>& pdos)
     if (pdos.isEmpty()) {
         return;
     }
-    mHtml.open("details").element("summary", tr("%n PDO(s) that map nothing", nullptr, int(pdos.size()))).line();
+    mHtml.open("details").element("summary", tr("%n PDO(s) with nothing mapped", nullptr, int(pdos.size()))).line();
     mHtml.open("table", {{"class", QStringLiteral("lg")}}).open("thead").open("tr");
     for (const QString& head : {tr("PDO"), tr("State"), tr("CAN-ID"), tr("Objects")}) {
         mHtml.element("th", head, {{"scope", QStringLiteral("col")}});

@@ -13,8 +13,9 @@ const puppeteer = require(path.resolve(modules, 'node_modules/puppeteer-core'));
         args: ['--no-sandbox', '--disable-gpu', '--disable-dev-shm-usage'],
     });
     const view = await browser.newPage();
-    await view.setViewport({ width: 1000, height: 880 });
+    await view.setViewport({ width: 1200, height: 760 });
     await view.goto(`file://${path.resolve(page)}`);
+    await view.evaluate(() => document.getElementById('pdos').scrollIntoView());
     await view.screenshot({ path: png });
     await browser.close();
 })();
