@@ -24,7 +24,7 @@ bool isShownByNumber(uint character)
 std::pair<uint, int> characterAt(const QString& text, int at)
 {
     const bool isPair = text.at(at).isHighSurrogate() && at + 1 < text.size() && text.at(at + 1).isLowSurrogate();
-    return isPair ? std::make_pair(QChar::surrogateToUcs4(text.at(at), text.at(at + 1)), 2)
+    return isPair ? std::make_pair(uint(QChar::surrogateToUcs4(text.at(at), text.at(at + 1))), 2)
                   : std::make_pair(uint(text.at(at).unicode()), 1);
 }
 } // namespace
