@@ -54,21 +54,30 @@ QSet<QString> addRead(const QList<CXddRemark>& remarks, CRemarks& findings)
 // Takes out the findings that comments hide. A comment that hides none is a finding itself.
 QList<CXddRemark> withoutHidden(const QList<CXddRemark>& findings, const std::vector<SSuppression>& suppressions)
 {
-    QMultiHash<int, const SSuppression*> byLine;
+    QHash<int, std::vector<const SSuppression*>> byLine;
     for (const SSuppression& suppression : suppressions) {
-        byLine.insert(suppression.hidden, &suppression);
+        byLine[suppression.hidden].push_back(&suppression);
     }
     QSet<const SSuppression*> used;
+    // A line can have many of both, so those of a rule are looked for once.
+    QHash<QPair<int, QString>, bool> hidden;
+    const auto isHidden = [&](const CXddRemark& finding) {
+        const QPair<int, QString> key(finding.mLine, finding.mRule);
+        if (!hidden.contains(key)) {
+            bool isNamed = false;
+            for (const SSuppression* const suppression : byLine.value(finding.mLine)) {
+                if (CXddRule::isNamed(finding.mRule, suppression->rule)) {
+                    isNamed = true;
+                    used.insert(suppression);
+                }
+            }
+            hidden.insert(key, isNamed);
+        }
+        return hidden.value(key);
+    };
     CRemarks shown;
     for (const CXddRemark& finding : findings) {
-        bool isHidden = false;
-        for (const SSuppression* const suppression : byLine.values(finding.mLine)) {
-            if (CXddRule::isNamed(finding.mRule, suppression->rule)) {
-                isHidden = true;
-                used.insert(suppression);
-            }
-        }
-        if (!isHidden) {
+        if (!isHidden(finding)) {
             shown.add(finding);
         }
     }

@@ -49,9 +49,8 @@ std::shared_ptr<SOpened> openXdd(const QByteArray& bytes, CXddRemark& failure)
     if (!encoded.decode(bytes, failure.mText) || !tree.read(encoded.text(), failure)) {
         return nullptr;
     }
-    std::vector<SSuppression> suppressions = suppressionsInXml(encoded.text());
     auto opened = std::make_shared<SOpened>(std::move(encoded), std::move(tree), EForm::Xdd);
-    opened->suppressions = std::move(suppressions);
+    opened->suppressions = opened->tree.suppressions();
     failure.mRule = QStringLiteral("not-a-description");
     return opened->description.isCanOpen(failure) ? opened : nullptr;
 }
@@ -77,14 +76,13 @@ std::shared_ptr<SOpened> openEds(const QByteArray& bytes, CXddRemark& failure)
     if (!reader.read(encoded.text(), failure)) {
         return nullptr;
     }
-    std::vector<SSuppression> suppressions = suppressionsInIni(encoded.text());
     encoded.setText(reader.xdd().text());
     if (!tree.readWritten(encoded.text(), reader.xdd().lines(), failure)) {
         return nullptr;
     }
     auto opened =
         std::make_shared<SOpened>(std::move(encoded), std::move(tree), reader.isDcf() ? EForm::Dcf : EForm::Eds);
-    opened->suppressions = std::move(suppressions);
+    opened->suppressions = reader.suppressions();
     opened->remarks = remarks.inOrder();
     return opened;
 }

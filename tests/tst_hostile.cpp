@@ -446,6 +446,12 @@ void TestHostile::toolsOnManyOfAKind_data()
                               + sub("03", "0007", "0x21000008") + "</CANopenObject>";
                    })
         << MANY;
+    // All of them are about the line in which all objects stand.
+    QTest::newRow("findings and comments that hide none")
+        << objects
+        << "<!-- xddcheck-disable-next-line " + repeated(MANY, [](int i) { return QByteArray::number(i, 16) + ' '; })
+               + "-->\n" + repeated(MANY / 10, [&](int i) { return entry(0x10000 + i, {}).trimmed(); })
+        << 3 * MANY;
     const QByteArray types = "</dataTypeList>";
     QTest::newRow("types that refer to each other many times")
         << types
@@ -556,6 +562,8 @@ void TestHostile::edsOfManyOfAKind_data()
     row("sub-sections without an object", numbered("[#00sub1]\nParameterName=x\n", MANY / 2));
     row("lists of names", "[2100Name]\n" + numbered("#=x\n", MANY / 2));
     row("lines that are nothing", QByteArray("x\n").repeated(MANY));
+    row("comments that hide nothing", "; " + QByteArray("xddcheck-disable-next-line ").repeated(2000) + '\n'
+                                          + numbered("; xddcheck-disable-next-line #\n", MANY / 2));
     row("bit rates", "[DeviceInfo]\n" + numbered("BaudRate_#=1\n", MANY / 2));
     row("dummies", "[DummyUsage]\n" + numbered("Dummy#=1\n", MANY / 2));
 }

@@ -77,7 +77,14 @@ const SEdsSection& CEdsFile::section(QLatin1String name) const
 
 void CEdsFile::readLine(QStringView text, int line, CRemarks& remarks)
 {
-    if (text.isEmpty() || text.front() == QLatin1Char(';') || text.front() == QLatin1Char('#')) {
+    if (text.isEmpty()) {
+        return;
+    }
+    if (text.front() == QLatin1Char(';') || text.front() == QLatin1Char('#')) {
+        const auto mark = suppressionsIn(text);
+        if (mark >= 0) {
+            addSuppressions(text.mid(mark), line, line + 1, mSuppressions);
+        }
         return;
     }
     const auto bracket = text.front() == QLatin1Char('[') ? text.indexOf(QLatin1Char(']')) : -1;

@@ -2,6 +2,7 @@
 #define MVXXDDTOOLS_CEDSFILE_H
 
 #include "remarks/CRemarks.h"
+#include "text/Suppressions.h"
 
 #include <QHash>
 #include <QSet>
@@ -54,6 +55,9 @@ public:
     /** The section with that name; one without keys in line 1 where it is absent. */
     const SEdsSection& section(QLatin1String name) const;
 
+    /** The rules of the checker that comments switch off, in the order of the lines. */
+    const std::vector<SSuppression>& suppressions() const { return mSuppressions; }
+
 private:
     void readLine(QStringView text, int line, CRemarks& remarks);
     void beginSection(QStringView name, int line, CRemarks& remarks);
@@ -61,6 +65,7 @@ private:
 
     QString mText; // What the views refer to
     std::vector<SEdsSection> mSections;
+    std::vector<SSuppression> mSuppressions;
     QHash<QString, int> mByName; // In lower case
     int mCurrent = -1;           // The section that keys belong to
     QSet<QString> mKeys;         // Those of the current section in lower case, once it has many

@@ -22,6 +22,9 @@ public:
     /** The XDD. */
     const CXddText& xdd() const { return mXdd; }
 
+    /** The rules of the checker that comments switch off. */
+    const std::vector<SSuppression>& suppressions() const { return mFile.suppressions(); }
+
     /** True for a DCF: a file with what is configured. */
     bool isDcf() const;
 

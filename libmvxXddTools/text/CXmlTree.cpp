@@ -283,7 +283,18 @@ public:
         }
     }
 
-    void comment(SMarkupRange /*comment*/) {}
+    void comment(SMarkupRange comment)
+    {
+        constexpr int closing = 3; // "-->"
+        const QStringView text = mTree.view({int(comment.begin), int(comment.end) - closing});
+        const auto mark = suppressionsIn(text);
+        if (mark >= 0) {
+            countLines(comment.begin + mark);
+            const int line = mLine;
+            countLines(comment.end);
+            addSuppressions(text.mid(mark), line, mLine + 1, mTree.mSuppressions);
+        }
+    }
 
     /** The first end tag of another element than the open one, if it ends up to that place. */
     bool hasMismatch(qsizetype end, CXddRemark& failure) const

@@ -2,6 +2,7 @@
 #define MVXXDDTOOLS_CXMLTREE_H
 
 #include "remarks/CRemarks.h"
+#include "text/Suppressions.h"
 
 #include <QHash>
 #include <QString>
@@ -109,6 +110,9 @@ public:
     /** Every element in document order. */
     std::vector<CXmlElement> all() const;
 
+    /** The rules of the checker that comments switch off, in document order. */
+    const std::vector<SSuppression>& suppressions() const { return mSuppressions; }
+
 private:
     friend class CXmlElement;
     class CBuilder;
@@ -156,6 +160,7 @@ private:
     QString mText;
     std::vector<SNode> mNodes;
     std::vector<SAttribute> mAttributes;
+    std::vector<SSuppression> mSuppressions;
     QHash<int, QHash<QString, SNamedChild>> mNamedChildren; // Of elements with many children
 };
 

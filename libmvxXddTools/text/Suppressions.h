@@ -2,6 +2,7 @@
 #define MVXXDDTOOLS_SUPPRESSIONS_H
 
 #include <QString>
+#include <QStringView>
 
 #include <vector>
 
@@ -13,10 +14,10 @@ struct SSuppression
     QString rule;   ///< May have "*" for any characters
 };
 
-/** The suppressions in the comments of an XML text. */
-std::vector<SSuppression> suppressionsInXml(const QString& text);
+/** Where in a comment its suppressions begin; negative where it has none. */
+qsizetype suppressionsIn(QStringView comment);
 
-/** The suppressions in the comments of an INI text. */
-std::vector<SSuppression> suppressionsInIni(const QString& text);
+/** Adds those that begin a text: a suppression of each rule up to its end. */
+void addSuppressions(QStringView text, int line, int hidden, std::vector<SSuppression>& suppressions);
 
 #endif
