@@ -1,5 +1,6 @@
 #include "CCanOpenNames.h"
 
+#include "canopen/CValue.h"
 #include "canopen/DataTypes.h"
 #include "canopen/ObjectCodes.h"
 
@@ -10,11 +11,6 @@
 
 namespace
 {
-QString hexadecimal(unsigned int number, int digits)
-{
-    return QString::number(number, 16).toUpper().rightJustified(digits, QLatin1Char('0'));
-}
-
 // The numbers that CiA gives to its profiles; other numbers are a manufacturer's own.
 constexpr unsigned int FIRST_PROFILE = 301;
 constexpr unsigned int LAST_PROFILE = 999;
@@ -110,11 +106,11 @@ QString CCanOpenNames::deviceProfile(unsigned int number)
 
 QString CCanOpenNames::index(unsigned int index)
 {
-    return QStringLiteral("0x") + hexadecimal(index, 4);
+    return hexadecimalText(index, 4);
 }
 
 QString CCanOpenNames::entry(unsigned int index, std::optional<unsigned int> subIndex)
 {
     const QString object = CCanOpenNames::index(index);
-    return subIndex ? object + QLatin1Char(':') + hexadecimal(*subIndex, 2) : object;
+    return subIndex ? object + QLatin1Char(':') + hexadecimalDigits(*subIndex, 2) : object;
 }

@@ -19,8 +19,3 @@ CXddEntryTexts CXddTexts::of(unsigned int index, std::optional<unsigned int> sub
     const SEntry* const entry = subIndex ? dictionary.subObject(index, *subIndex) : dictionary.object(index);
     return entry == nullptr ? CXddEntryTexts() : mTexts->of(*entry);
 }
-
-QStringList CXddTexts::languages() const
-{
-    return mTexts ? languagesOf(openedOf(mDocument).description) : QStringList();
-}

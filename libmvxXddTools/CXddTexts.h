@@ -5,8 +5,6 @@
 #include "CXddEntryTexts.h"
 #include "mvxXddTools_export.h"
 
-#include <QStringList>
-
 #include <memory>
 #include <optional>
 
@@ -26,9 +24,6 @@ public:
 
     /** The texts of an object or sub-object; none where there is no such entry. */
     CXddEntryTexts of(unsigned int index, std::optional<unsigned int> subIndex = std::nullopt);
-
-    /** The languages in which the description has texts: "de", "en". */
-    QStringList languages() const;
 
 private:
     const CXddDocument mDocument;

@@ -3,8 +3,6 @@
 #include "NIso15745Tags.h"
 #include "canopen/NFormatWords.h"
 
-#include <QSet>
-
 #include <algorithm>
 
 using namespace NIso15745Tags;
@@ -170,17 +168,4 @@ CXddEntryTexts CTexts::ofParameter(const CXmlElement& parameter) const
     texts.mOffset = parameter.attribute(ATTR_OFFSET);
     texts.mAllowedValues = collector.allowedValues(parameter);
     return texts;
-}
-
-QStringList languagesOf(const CDescription& description)
-{
-    QSet<QString> languages;
-    for (const CXmlElement& element : description.tree().all()) {
-        languages << element.attribute(ATTR_LANG).trimmed();
-    }
-    languages.remove(QString());
-    languages.remove(QStringLiteral(""));
-    QStringList sorted = languages.values();
-    sorted.sort();
-    return sorted;
 }

@@ -4,7 +4,7 @@
 #include "CXddEntryTexts.h"
 #include "canopen/CDescription.h"
 
-#include <QStringList>
+#include <QHash>
 
 /** @file
  * Labels, descriptions, units and allowed values: what a description says for people.
@@ -26,8 +26,5 @@ private:
     const CDescription& mDescription;
     QHash<int, CXddEntryTexts> mOfParameters; // By where they begin
 };
-
-/** The languages of all texts, in alphabetical order. */
-QStringList languagesOf(const CDescription& description);
 
 #endif

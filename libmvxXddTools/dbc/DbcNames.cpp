@@ -72,12 +72,6 @@ QString folded(const QString& text)
     return result;
 }
 
-// An upper-case hexadecimal number of so many digits.
-QString digits(unsigned int number, int count)
-{
-    return QString::number(number, 16).toUpper().rightJustified(count, QLatin1Char('0'));
-}
-
 bool isNameCharacter(QChar character)
 {
     return character.unicode() < 0x80 && character.isLetterOrNumber();
@@ -141,8 +135,8 @@ SDbcName CDbcNames::of(const SEntry& entry) const
 
 SDbcName CDbcNames::byIndex(unsigned int index, bool isSubObject, unsigned int subIndex)
 {
-    const QString end = isSubObject ? UNDERSCORE + digits(subIndex, 2) : QString();
-    return {QLatin1String("Index_") + digits(index, 4) + end, QString()};
+    const QString end = isSubObject ? UNDERSCORE + hexadecimalDigits(subIndex, 2) : QString();
+    return {QLatin1String("Index_") + hexadecimalDigits(index, 4) + end, QString()};
 }
 
 // The object's part is what is made shorter.
@@ -164,9 +158,10 @@ QVector<SDbcName> CDbcNames::candidates(const QString& object, const SEntry& ent
             (hasRoom ? beginning + UNDERSCORE + own : shortened(own, MAX_DBC_NAME - int(end.size()))) + end, whole};
     };
     if (!entry.isSubObject) {
-        return {named(QString(), QString()), named(QString(), UNDERSCORE + digits(entry.index.value_or(0), 4))};
+        return {
+            named(QString(), QString()), named(QString(), UNDERSCORE + hexadecimalDigits(entry.index.value_or(0), 4))};
     }
-    const QString subIndex = UNDERSCORE + digits(entry.subIndex.value_or(0), 2);
+    const QString subIndex = UNDERSCORE + hexadecimalDigits(entry.subIndex.value_or(0), 2);
     return {named(QString(), QString()), named(object, QString()), named(object, subIndex)};
 }
 

@@ -22,11 +22,8 @@ namespace
 {
 QString sectionOf(const SEntry& entry)
 {
-    const auto hexadecimal = [](unsigned int number, int digits) {
-        return hexadecimalText(number, digits).mid(HEXADECIMAL_PREFIX.size());
-    };
-    const QString object = hexadecimal(*entry.index, 4);
-    return entry.isSubObject ? object + SUB + hexadecimal(*entry.subIndex, 1) : object;
+    const QString object = hexadecimalDigits(*entry.index, 4);
+    return entry.isSubObject ? object + SUB + hexadecimalDigits(*entry.subIndex, 1) : object;
 }
 
 QLatin1String flagText(bool isSet)

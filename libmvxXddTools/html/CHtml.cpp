@@ -1,5 +1,6 @@
 #include "html/CHtml.h"
 
+#include "canopen/CValue.h"
 #include "remarks/CRemarks.h"
 
 namespace
@@ -39,11 +40,7 @@ CHtml::CHtml()
 CHtml& CHtml::open(const char* tag, Attributes attributes)
 {
     mWriter.writeStartElement(QString::fromLatin1(tag));
-    for (const auto& [name, value] : attributes) {
-        if (!value.isNull()) {
-            mWriter.writeAttribute(QString::fromLatin1(name), value);
-        }
-    }
+    write(attributes);
     mWriter.writeCharacters(QString()); // An empty element is not "<td/>" in HTML
     return *this;
 }
@@ -57,10 +54,17 @@ CHtml& CHtml::close()
 CHtml& CHtml::empty(const char* tag, Attributes attributes)
 {
     mWriter.writeEmptyElement(QString::fromLatin1(tag));
-    for (const auto& [name, value] : attributes) {
-        mWriter.writeAttribute(QString::fromLatin1(name), value);
-    }
+    write(attributes);
     return *this;
+}
+
+void CHtml::write(Attributes attributes)
+{
+    for (const auto& [name, value] : attributes) {
+        if (!value.isNull()) {
+            mWriter.writeAttribute(QString::fromLatin1(name), value);
+        }
+    }
 }
 
 CHtml& CHtml::text(const QString& text)
@@ -71,8 +75,7 @@ CHtml& CHtml::text(const QString& text)
         const auto [character, length] = characterAt(text, at);
         if (isShownByNumber(character)) {
             mWriter.writeCharacters(text.mid(begin, at - begin));
-            const QString number = QString::number(character, 16).toUpper().rightJustified(4, QLatin1Char('0'));
-            element("span", QLatin1String("U+") + number, {{"class", QStringLiteral("c")}});
+            element("span", QLatin1String("U+") + hexadecimalDigits(character, 4), {{"class", QStringLiteral("c")}});
             begin = at + length;
         }
         at += length;

@@ -45,6 +45,8 @@ public:
     QByteArray bytes() const { return mBuffer.data(); }
 
 private:
+    void write(Attributes attributes);
+
     QBuffer mBuffer;
     QXmlStreamWriter mWriter;
 };

@@ -67,7 +67,7 @@ int SPage::entries() const
 QString rowId(unsigned int index, std::optional<unsigned int> subIndex)
 {
     const QString object = hexadecimalText(index, 4);
-    return subIndex ? object + QLatin1Char('.') + QString::number(*subIndex, 16).toUpper() : object;
+    return subIndex ? object + QLatin1Char('.') + hexadecimalDigits(*subIndex, 1) : object;
 }
 
 CPageWriter::CPageWriter(const SPage& page)

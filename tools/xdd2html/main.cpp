@@ -39,13 +39,12 @@ ECopied writePage(
     }
     const QString copy = request.destination.of(fileName);
     page.mFileName = QFileInfo(copy).fileName();
-    page.mText = request.dryRun || writeFile(copy, page.mText) ? page.mText : QByteArray();
-    const bool isWritten = !page.mText.isEmpty();
-    page.mText.clear(); // The index needs the rest only
-    if (isWritten) {
-        pages << page;
+    if (!request.dryRun && !writeFile(copy, page.mText)) {
+        return ECopied::No;
     }
-    return isWritten ? ECopied::Yes : ECopied::No;
+    page.mText.clear(); // The index needs the rest only
+    pages << page;
+    return ECopied::Yes;
 }
 
 // Writes the page that leads to the others of a folder.

@@ -18,7 +18,7 @@ struct SShownDescription
     bool isSample = false;
     CXddDocument document;
     ICIso15745* reader = nullptr;
-    QList<CXddPdo> pdos;
+    QList<CXddPdo> pdos;     ///< Nothing where they are not shown
     unsigned int nodeId = 0; ///< That of the PDOs; 0 where none is known
 
     /** What the description is called in front of what is shown. */

@@ -218,8 +218,12 @@ bool showFile(const SRequest& request, const QString& fileName, COutput& output)
     if (description.nodeId == 0 && document.isOpen()) {
         description.nodeId = CXddEdsWriter::commissioning(document).mNodeId;
     }
-    description.pdos = request.strict ? CXddPdos::of(reader->getObjList(), description.nodeId)
-                                      : CXddPdos::of(document, description.nodeId);
+    const bool arePdosShown =
+        request.pdos || (!request.json && request.selections.isEmpty() && request.searched.isEmpty());
+    if (arePdosShown) {
+        description.pdos = request.strict ? CXddPdos::of(reader->getObjList(), description.nodeId)
+                                          : CXddPdos::of(document, description.nodeId);
+    }
     return show(request, description, output);
 }
 
