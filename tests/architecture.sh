@@ -1,6 +1,6 @@
 #!/bin/sh
-# Compares docs/architecture.md with the sources: the files that it names are there, and no folder of libmvxXddTools
-# includes a header of one that stands above it. Called with the folder of the sources.
+# Compares docs/architecture.md with the sources: the files that it names are there, and nothing in libmvxXddTools, be it
+# a room of src or a public header, includes a header that stands above it. Called with the folder of the sources.
 set -eu
 cd "$1"
 page=docs/architecture.md
@@ -12,36 +12,52 @@ wrong() {
 }
 
 for path in $(grep -oh '`[A-Za-z]*/[A-Za-z0-9_./]*`' "$page" CONTRIBUTING.md | tr -d '`' | sort -u); do
-    [ -e "$path" ] || [ -e "libmvxXddTools/$path" ] || [ -e "libmvxXddTools/$path.h" ] || wrong "$path is named, but is not there"
+    [ -e "$path" ] || [ -e "libmvxXddTools/src/$path" ] || [ -e "libmvxXddTools/src/$path.h" ] \
+        || wrong "$path is named, but is not there"
 done
 
-layers=$(sed -n '/<!-- layers -->/,/<!-- end of layers -->/p' "$page" | grep '^    ' | tr -d ',')
-[ "$(echo "$layers" | wc -l)" -gt 4 ] || wrong "$page has no layers"
-records=$(echo "$layers" | tail -n 1)
+# A row has rooms (folders of src) and public headers.
+layers=$(sed -n '/<!-- layers -->/,/<!-- end of layers -->/p' "$page" | grep '^    ' | tr -d ',' | tr -s ' ')
+[ "$(echo "$layers" | wc -l)" -gt 5 ] || wrong "$page has no layers"
+
+# Usage: look NAME ALLOWED FILE...: the headers that the files of a room, or a header, include.
+look() {
+    name=$1
+    allowed=$2
+    shift 2
+    for header in $(grep -ho '#include "[^"]*"' "$@" | sed 's/#include "\(.*\)"/\1/' | sort -u); do
+        case $header in
+            */*) place=${header%%/*} ;;
+            *) [ -e "libmvxXddTools/include/$header" ] && place=${header%.h} || continue ;;
+        esac
+        case " $name $allowed mvxXddTools_export " in
+            *" $place "*) ;;
+            *) wrong "$name includes $header, which does not stand below it" ;;
+        esac
+    done
+}
+
+# From below, so that what is allowed grows with each row. Headers of one row may include each other.
 below=""
-# From below, so that what is allowed grows with each line.
-for row in $(echo "$layers" | sed '1d;$d' | tac | tr -s ' ' | tr ' ' '+'); do
-    row=$(echo "$row" | tr '+' ' ')
-    for folder in $row; do
-        [ -d "libmvxXddTools/$folder" ] || wrong "libmvxXddTools/$folder is named, but is not there"
-        for header in $(grep -ho '#include "[^"]*"' libmvxXddTools/"$folder"/*.h libmvxXddTools/"$folder"/*.cpp \
-            | sed 's/#include "\(.*\)"/\1/' | sort -u); do
-            case $header in
-                */*) place=${header%%/*} ;;
-                *) [ -e "libmvxXddTools/$header" ] && place=${header%.h} || continue ;;
-            esac
-            case " $folder $below $records " in
-                *" $place "*) ;;
-                *) wrong "libmvxXddTools/$folder includes $header, which stands above it" ;;
-            esac
-        done
+while read -r row; do
+    for name in $row; do
+        if [ -d "libmvxXddTools/src/$name" ]; then
+            look "$name" "$below" libmvxXddTools/src/"$name"/*.h libmvxXddTools/src/"$name"/*.cpp
+        elif [ -e "libmvxXddTools/include/$name.h" ]; then
+            look "$name" "$below $row" "libmvxXddTools/include/$name.h"
+        else
+            wrong "$name is named, but is not there"
+        fi
     done
     below="$below $row"
-done
-for folder in libmvxXddTools/*/; do
-    case "$below" in
-        *" $(basename "$folder")"*) ;;
-        *) wrong "$page does not name $folder" ;;
+done <<ROWS
+$(echo "$layers" | tac)
+ROWS
+for path in libmvxXddTools/src/*/ libmvxXddTools/include/*.h; do
+    name=$(basename "$path" .h)
+    case " $(echo $layers) mvxXddTools_export " in
+        *" $name "*) ;;
+        *) wrong "$page does not name $path" ;;
     esac
 done
 

@@ -1,0 +1,140 @@
+#include "check/CCheckRules.h"
+#include "check/Walks.h"
+#include "names/DataTypes.h"
+
+#include <array>
+
+namespace
+{
+// A value or limit of an entry, and what it is called.
+struct SNamedValue
+{
+    QString name;
+    const SValueProperty& property;
+};
+
+std::array<SNamedValue, 4> valuesOf(const SEntry& entry)
+{
+    return {
+        {{CRemarks::tr("default value"), entry.defaultValue},
+         {CRemarks::tr("actual value"), entry.actualValue},
+         {CRemarks::tr("low limit"), entry.lowLimit},
+         {CRemarks::tr("high limit"), entry.highLimit}}};
+}
+
+// Calls for every entry of a type whose values are known.
+template <typename Look> void forTyped(const CDescription& description, Look look)
+{
+    forVariables(description, [&](const SEntry& entry) {
+        const EValueKind kind = valueKind(entry.dataType.value);
+        if (kind != EValueKind::None && kind != EValueKind::Record) {
+            look(entry);
+        }
+    });
+}
+
+// Calls for every value and limit of such an entry that is given.
+template <typename Look> void forValues(const CDescription& description, Look look)
+{
+    forTyped(description, [&](const SEntry& entry) {
+        for (const SNamedValue& value : valuesOf(entry)) {
+            if (value.property.isGiven()) {
+                look(entry, value);
+            }
+        }
+    });
+}
+
+// True for two numbers, the first of which is below the second.
+bool isBelow(const SValueProperty& low, const SValueProperty& high)
+{
+    return low.value && high.value && low.value->isBelow(*high.value);
+}
+
+void badValue(const CDescription& description, CRemarks& findings)
+{
+    forValues(description, [&](const SEntry& entry, const SNamedValue& value) {
+        if (!value.property.value) {
+            findings.add(
+                entry, CRemarks::tr("%1 %2 is not a value of %3"),
+                {SArgument::word(value.name), quoted(value.property, entry),
+                 CCanOpenNames::dataType(entry.dataType.value)});
+        }
+    });
+}
+
+void valueOutOfRange(const CDescription& description, CRemarks& findings)
+{
+    forValues(description, [&](const SEntry& entry, const SNamedValue& value) {
+        if (value.property.value && !value.property.value->fits(entry.dataType.value)) {
+            findings.add(
+                entry, CRemarks::tr("%1 %2 is outside the range of %3"),
+                {SArgument::word(value.name), quoted(value.property, entry),
+                 CCanOpenNames::dataType(entry.dataType.value)});
+        }
+    });
+}
+
+void limitsReversed(const CDescription& description, CRemarks& findings)
+{
+    forTyped(description, [&](const SEntry& entry) {
+        if (isBelow(entry.highLimit, entry.lowLimit)) {
+            findings.add(
+                entry, CRemarks::tr("low limit %1 is above high limit %2"),
+                {quoted(entry.lowLimit, entry), quoted(entry.highLimit, entry)});
+        }
+    });
+}
+
+void valueOutsideLimits(const CDescription& description, CRemarks& findings)
+{
+    forTyped(description, [&](const SEntry& entry) {
+        const std::array<SNamedValue, 4> values = valuesOf(entry);
+        for (const SNamedValue& value : {values[0], values[1]}) {
+            if (isBelow(value.property, entry.lowLimit)) {
+                findings.add(
+                    entry, CRemarks::tr("%1 %2 is below low limit %3"),
+                    {SArgument::word(value.name), quoted(value.property, entry), quoted(entry.lowLimit, entry)});
+            }
+            if (isBelow(entry.highLimit, value.property)) {
+                findings.add(
+                    entry, CRemarks::tr("%1 %2 is above high limit %3"),
+                    {SArgument::word(value.name), quoted(value.property, entry), quoted(entry.highLimit, entry)});
+            }
+        }
+    });
+}
+
+void nodeIdNotFirst(const CDescription& description, CRemarks& findings)
+{
+    forValues(description, [&](const SEntry& entry, const SNamedValue& value) {
+        if (value.property.value && value.property.value->isNodeIdLast()) {
+            findings.add(
+                entry, CRemarks::tr("%1 %2 does not begin with $NODEID"),
+                {SArgument::word(value.name), quoted(value.property, entry)});
+        }
+    });
+}
+} // namespace
+
+const CheckRules& CCheckRules::value()
+{
+    static const CheckRules rules = {
+        {"bad-value", ERROR, QT_TR_NOOP("A default value, actual value or limit is not a value of its data type"),
+         QT_TR_NOOP(
+             "Tools refuse the file or take another value. Write numbers in decimal or with 0x, without a suffix."),
+         badValue},
+        {"value-out-of-range", ERROR,
+         QT_TR_NOOP("A default value, actual value or limit does not fit into its data type"),
+         QT_TR_NOOP("Tools cut it off or refuse it. Correct the value or the data type."), valueOutOfRange},
+        {"limits-reversed", ERROR, QT_TR_NOOP("The low limit is above the high limit"),
+         QT_TR_NOOP(
+             "Tools that respect limits refuse every value. Exchange them; with a signed type, 0x80 and up may be meant as negative."),
+         limitsReversed},
+        {"value-outside-limits", WARNING, QT_TR_NOOP("A default or actual value is outside its limits"),
+         QT_TR_NOOP("Tools that respect limits refuse the value. Correct one of them."), valueOutsideLimits},
+        {"nodeid-not-first", WARNING, QT_TR_NOOP("A value is written N+$NODEID"),
+         QT_TR_NOOP("Tools that follow the standard lose the node-ID. Write $NODEID+N."), nodeIdNotFirst},
+    };
+    return rules;
+}
