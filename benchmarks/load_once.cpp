@@ -51,7 +51,7 @@ void openAny(const QString& fileName)
     QList<CXddRemark> remarks;
     CXddRemark failure;
     if (!CXddNormalizer::load(CXddDocument::openFile(fileName), *reader, remarks, failure)) {
-        qFatal("%s", qUtf8Printable(failure.mText));
+        qFatal("%s", qUtf8Printable(failure.text()));
     }
 }
 

@@ -25,7 +25,7 @@ void require(bool condition)
 void requireSound(const QList<CXddRemark>& remarks, int lines)
 {
     for (const CXddRemark& remark : remarks) {
-        require(remark.mLine >= 0 && remark.mLine <= lines && !remark.mText.isEmpty() && remark.mText.size() < 3000);
+        require(remark.mLine >= 0 && remark.mLine <= lines && !remark.text().isEmpty() && remark.text().size() < 3000);
     }
 }
 } // namespace
@@ -38,7 +38,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const CXddDocument document = CXddDocument::open(bytes);
     requireSound(CXddChecker::check(document), lines);
     if (!document.isOpen()) {
-        require(!document.failure().mText.isEmpty());
+        require(!document.failure().text().isEmpty());
         return 0;
     }
     // A second time changes nothing, and what is lost is no more than there is.
@@ -71,7 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
     QList<CXddRemark> remarks;
     CXddRemark failure;
-    require(CXddNormalizer::load(document, *reader, remarks, failure) || !failure.mText.isEmpty());
+    require(CXddNormalizer::load(document, *reader, remarks, failure) || !failure.text().isEmpty());
     requireSound(remarks, lines);
     CXddPdos::of(reader->getObjList());
     return 0;

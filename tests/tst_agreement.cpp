@@ -44,7 +44,7 @@ std::unique_ptr<ICIso15745> readerOf(const CXddDocument& document)
     QList<CXddRemark> remarks;
     CXddRemark failure;
     if (!CXddNormalizer::load(document, *reader, remarks, failure)) {
-        qFatal("%s", qPrintable(failure.mText));
+        qFatal("%s", qPrintable(failure.text()));
     }
     return reader;
 }
@@ -193,8 +193,8 @@ void TestAgreement::findings()
         if (!finding.mIndex) {
             continue;
         }
-        QVERIFY2(objects.contains(*finding.mIndex), qPrintable(finding.mText));
-        QVERIFY2(finding.mText.startsWith(finding.entry() + QLatin1String(": ")), qPrintable(finding.mText));
+        QVERIFY2(objects.contains(*finding.mIndex), qPrintable(finding.text()));
+        QVERIFY2(finding.text().startsWith(finding.entry() + QLatin1String(": ")), qPrintable(finding.text()));
     }
 }
 

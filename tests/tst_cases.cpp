@@ -207,13 +207,13 @@ QStringList loaded(const QByteArray& text)
 
 QString shown(const CXddRemark& remark)
 {
-    const QString kind = remark.mKind == CXddRemark::KIND_LEFT ? remark.mReason : remark.mRule;
-    return QStringLiteral("%1: %2 [%3]").arg(QString::number(remark.mLine), remark.mText, kind);
+    const QString kind = remark.mKind == CXddRemark::KIND_LEFT ? remark.mReason.text() : remark.mRule;
+    return QStringLiteral("%1: %2 [%3]").arg(QString::number(remark.mLine), remark.text(), kind);
 }
 
 QString failureOf(const CXddDocument& document)
 {
-    return QStringLiteral("%1: %2").arg(QString::number(document.failure().mLine), document.failure().mText);
+    return QStringLiteral("%1: %2").arg(QString::number(document.failure().mLine), document.failure().text());
 }
 
 // The remarks and the text, which the library then has to read unless something was left.
@@ -251,7 +251,7 @@ QStringList conformed(const QByteArray& text)
     const CXddDocument again = CXddDocument::open(copy.mText);
     QStringList lines;
     for (const CXddRemark& remark : copy.mRemarks) {
-        lines << QStringLiteral("%1: %2 [%3]").arg(QString::number(remark.mLine), remark.mText, remark.mRule);
+        lines << QStringLiteral("%1: %2 [%3]").arg(QString::number(remark.mLine), remark.text(), remark.mRule);
     }
     if (CXddNormalizer::conform(again).mText != copy.mText) {
         lines << QStringLiteral("not the same when it is put right again");
@@ -262,7 +262,7 @@ QStringList conformed(const QByteArray& text)
     }
     for (const CXddRemark& finding : CXddChecker::check(again)) {
         if (!before.removeOne(finding.mRule + finding.entry())) {
-            lines << QStringLiteral("found in the copy: ") + finding.mText;
+            lines << QStringLiteral("found in the copy: ") + finding.text();
         }
     }
     return lines + linesOf(copy.mText);
@@ -277,7 +277,7 @@ QStringList loadedNormalized(const QByteArray& text)
     CXddRemark failure;
     QStringList lines;
     if (!CXddNormalizer::load(document, *reader, remarks, failure)) {
-        lines << QStringLiteral("%1: %2").arg(QString::number(failure.mLine), failure.mText);
+        lines << QStringLiteral("%1: %2").arg(QString::number(failure.mLine), failure.text());
     }
     for (const CXddRemark& remark : remarks) {
         if (remark.mKind == CXddRemark::KIND_LEFT) {
@@ -300,7 +300,7 @@ QStringList loadedEds(const QByteArray& text)
     CXddNormalizer::load(document, *reader, remarks, failure);
     QStringList lines = {QStringLiteral("form %1").arg(document.form())};
     for (const CXddRemark& remark : document.remarks()) {
-        lines << QStringLiteral("%1: %2").arg(QString::number(remark.mLine), remark.mText);
+        lines << QStringLiteral("%1: %2").arg(QString::number(remark.mLine), remark.text());
     }
     return lines + dump(*reader);
 }
@@ -311,7 +311,7 @@ QStringList checked(const QByteArray& text)
     for (const CXddRemark& finding : CXddChecker::check(CXddDocument::open(text))) {
         lines << QStringLiteral("%1: %2: %3 [%4]")
                      .arg(
-                         QString::number(finding.mLine), CXddRemark::severityAsStr(finding.mSeverity), finding.mText,
+                         QString::number(finding.mLine), CXddRemark::severityAsStr(finding.mSeverity), finding.text(),
                          finding.mRule);
     }
     return lines;
@@ -346,7 +346,7 @@ QStringList dbc(const QByteArray& text)
     const CXddDbc dbc = CXddDbcWriter::write({CXddNode(document, 5)});
     QStringList lines;
     for (const CXddRemark& remark : dbc.mRemarks.value(0)) {
-        lines << QStringLiteral("%1: %2").arg(QString::number(remark.mLine), remark.mText);
+        lines << QStringLiteral("%1: %2").arg(QString::number(remark.mLine), remark.text());
     }
     return lines + linesOf(dbc.mText);
 }

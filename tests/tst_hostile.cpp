@@ -85,7 +85,7 @@ QString tools(const QByteArray& text)
 {
     const CXddDocument document = CXddDocument::open(text);
     if (!document.isOpen()) {
-        return document.failure().mText;
+        return document.failure().text();
     }
     const CXddCopy copy = CXddNormalizer::normalize(document);
     const CXddDocument again = CXddDocument::open(copy.mText);
@@ -111,8 +111,8 @@ QString tools(const QByteArray& text)
         qFatal("A text has become markup, or the page is too long: %d bytes", int(page.mText.size()));
     }
     for (const CXddRemark& remark : copy.mRemarks + eds.mLosses + dbc.mRemarks.value(0)) {
-        if (remark.mText.size() > 1500) {
-            qFatal("A remark repeats too much: %d characters", int(remark.mText.size()));
+        if (remark.text().size() > 1500) {
+            qFatal("A remark repeats too much: %d characters", int(remark.text().size()));
         }
     }
     return QString();
@@ -219,7 +219,7 @@ void TestHostile::limits()
     QCOMPARE(findings.size(), 1);
     if (!reason.isEmpty()) {
         QCOMPARE(findings.first().mRule, QStringLiteral("not-well-formed"));
-        QCOMPARE(findings.first().mText, reason);
+        QCOMPARE(findings.first().text(), reason);
         QVERIFY(tools(text).endsWith(reason));
     }
 }
@@ -350,7 +350,7 @@ void TestHostile::hugeTexts()
         const QByteArray hostile = changed(base, before, before + huge);
         QCOMPARE(tools(hostile), QString());
         for (const CXddRemark& finding : CXddChecker::check(CXddDocument::open(hostile))) {
-            QVERIFY2(finding.mText.size() < 1500, place);
+            QVERIFY2(finding.text().size() < 1500, place);
         }
     }
     // Qt 6 reads names of up to 4,096 characters.
@@ -545,7 +545,7 @@ void TestHostile::edsLimits()
     QFETCH(QString, refusal);
     const CXddDocument document = CXddDocument::open(added + testData(QStringLiteral("sound.eds")));
     const CXddRemark failure = document.failure();
-    QCOMPARE(document.isOpen() ? QString() : QStringLiteral("%1: %2").arg(failure.mLine).arg(failure.mText), refusal);
+    QCOMPARE(document.isOpen() ? QString() : QStringLiteral("%1: %2").arg(failure.mLine).arg(failure.text()), refusal);
 }
 
 // Much of whatever is looked up, each in time that grows with it.
@@ -584,7 +584,7 @@ void TestHostile::edsTruncatedEverywhere()
         const CXddDocument document = CXddDocument::open(text.left(size));
         const bool isOpen = size >= int(text.indexOf("[MandatoryObjects]")) + int(sizeof "[MandatoryObjects]") - 1;
         QCOMPARE(document.isOpen(), isOpen);
-        QCOMPARE(document.failure().mText.isEmpty(), isOpen);
+        QCOMPARE(document.failure().text().isEmpty(), isOpen);
         if (size >= firstObject && size % 7 == 0) {
             QCOMPARE(tools(text.left(size)), QString());
         }

@@ -152,8 +152,8 @@ void TestLibrary::layouts()
              &Network::mManufacturerObjects, &Network::mObjects, &Network::mBaudRate, &Network::mSupportedBaudRates),
          layoutOf(
              "CXddRemark", &CXddRemark::mKind, &CXddRemark::mSeverity, &CXddRemark::mLine, &CXddRemark::mColumn,
-             &CXddRemark::mRule, &CXddRemark::mIndex, &CXddRemark::mSubIndex, &CXddRemark::mText, &CXddRemark::mReason,
-             &CXddRemark::mGroup),
+             &CXddRemark::mRule, &CXddRemark::mIndex, &CXddRemark::mSubIndex, &CXddRemark::mSentence,
+             &CXddRemark::mReason),
          layoutOf("CXddRule", &CXddRule::mId, &CXddRule::mSummary, &CXddRule::mReason, &CXddRule::mSeverity),
          layoutOf<CXddDocument>("CXddDocument"),
          layoutOf("CXddCopy", &CXddCopy::mText, &CXddCopy::mLoads, &CXddCopy::mRemarks),

@@ -14,7 +14,7 @@ int main(int argc, char* argv[])
     QList<CXddRemark> remarks; // What was supplied, interpreted and left out
     CXddRemark failure;
     if (!CXddNormalizer::load(document, *reader, remarks, failure)) {
-        std::fprintf(stderr, "line %d: %s\n", failure.mLine, qUtf8Printable(failure.mText));
+        std::fprintf(stderr, "line %d: %s\n", failure.mLine, qUtf8Printable(failure.text()));
         return 1;
     }
     for (const CNetworkCanOpenProfile::EBaudrate rate : reader->networkProfile().mSupportedBaudRates) {

@@ -1,6 +1,7 @@
 #ifndef MVXXDDTOOLS_CXDDREMARK_H
 #define MVXXDDTOOLS_CXDDREMARK_H
 
+#include "CXddSentence.h"
 #include "mvxXddTools_export.h"
 
 #include <QString>
@@ -10,9 +11,6 @@
 /**
  * Something that is said about one place of a description: why it cannot be opened, what is wrong with it, what was
  * changed or left in a copy, or what another form of it cannot say.
- *
- * Texts are in the language of the program. What they repeat of the file is cut after 200 characters, and may contain
- * control characters.
  */
 class MVXXDDTOOLS_EXPORT CXddRemark
 {
@@ -24,7 +22,7 @@ public:
         KIND_FINDING = 1, ///< Something is wrong with it
         KIND_CHANGE = 2,  ///< Something was supplied or is written in another way
         KIND_LEFT = 3,    ///< Something is unknown or ambiguous, and was left as it is or not taken
-        KIND_LOSS = 4     ///< Something is not, or not fully, said by what was written
+        KIND_LOSS = 4     ///< What was written does not say something, or not all of it
     };
 
     /** How bad it is. */
@@ -43,19 +41,34 @@ public:
     /** "note", "warning" or "error", the same in every language. */
     static QString severityAsStr(ESeverity severity);
 
-    /** The object or sub-object that it is about, such as "0x1018" or "0x2001:0A"; nothing when it is about none. */
+    /** The object or sub-object that it is about, such as "0x1018" or "0x2001:0A"; nothing when it is about none or its
+     * index is unreadable. */
     QString entry() const;
+
+    /** What is said, behind the entry that it is about: "0x2001:0A: no access type is stated". In the language of the
+     * program. */
+    QString text() const;
+
+    /** The same in English and without numbers of lines, which move; the same whatever catalogues are installed. */
+    QString comparable() const;
+
+    /** What remarks that are alike but for their entries and values have in common; the same in every language. */
+    QString group() const;
 
     EKind mKind = KIND_FAILURE;            ///< What it says
     ESeverity mSeverity = SEVERITY_ERROR;  ///< How bad it is
     int mLine = 0;                         ///< Line of the file, from 1; 0 where it is about none
     int mColumn = 0;                       ///< Column in that line, from 1; 0 where none is known
     QString mRule;                         ///< ID of the rule, such as "limits-reversed"
-    std::optional<unsigned int> mIndex;    ///< Index of the object that it is about
-    std::optional<unsigned int> mSubIndex; ///< Sub-index, where it is about a sub-object
-    QString mText;                         ///< What is said
-    QString mReason;                       ///< Why, where that is not the same for the whole rule
-    QString mGroup;                        ///< What remarks that are alike but for their values have in common
+    bool mIsEntry = false;                 ///< It is about an object or sub-object
+    bool mIsSubObject = false;             ///< It is about a sub-object
+    std::optional<unsigned int> mIndex;    ///< Index of the object that it is about, where that is readable
+    std::optional<unsigned int> mSubIndex; ///< Sub-index of the sub-object that it is about, likewise
+    CXddSentence mSentence;                ///< What is said, without the entry
+    CXddSentence mReason;                  ///< Why, where that is not the same for the whole rule
+
+private:
+    QString address() const;
 };
 
 #endif

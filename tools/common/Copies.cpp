@@ -10,9 +10,9 @@
 
 namespace
 {
-void reportCopy(const SCopyRequest& request, const QString& fileName, const CXddCopy& copy)
+void reportCopy(const SCopyRequest& request, const QString& fileName, const CXddCopy& copy, bool showsRules)
 {
-    reportRemarks(fileName, request.verbose ? copy.mRemarks : summedUp(copy.mRemarks));
+    reportRemarks(fileName, copy.mRemarks, request.verbose ? EACH : MOST, showsRules);
     const auto changes = std::count_if(copy.mRemarks.begin(), copy.mRemarks.end(), [](const CXddRemark& remark) {
         return remark.mKind == CXddRemark::KIND_CHANGE;
     });
@@ -20,11 +20,11 @@ void reportCopy(const SCopyRequest& request, const QString& fileName, const CXdd
 }
 } // namespace
 
-ECopied writeCopy(const SCopyRequest& request, const CXddDocument& document, const CXddCopy& copy)
+ECopied writeCopy(const SCopyRequest& request, const CXddDocument& document, const CXddCopy& copy, bool showsRules)
 {
     const QString fileName = document.name();
     if (!request.quiet) {
-        reportCopy(request, fileName, copy);
+        reportCopy(request, fileName, copy, showsRules);
     }
     const bool isNeeded = !request.dryRun && (!request.destination.inPlace || copy.mText != document.bytes());
     return !isNeeded || writeFile(request.destination.of(fileName), copy.mText) ? ECopied::Yes : ECopied::No;
@@ -41,10 +41,5 @@ ECopied conformFile(const SCopyRequest& request, const QString& fileName)
                      .arg(fileName));
         return ECopied::No;
     }
-    CXddCopy copy = CXddNormalizer::conform(document);
-    for (CXddRemark& remark : copy.mRemarks) {
-        remark.mText += QStringLiteral(" [%1]").arg(remark.mRule);
-        remark.mReason.clear();
-    }
-    return writeCopy(request, document, copy);
+    return writeCopy(request, document, CXddNormalizer::conform(document), true);
 }

@@ -9,8 +9,9 @@
  * How tools write changed copies of descriptions.
  */
 
-/** Reports the changes of a copy and writes it where that was asked for; in place only where something changed. */
-ECopied writeCopy(const SCopyRequest& request, const CXddDocument& document, const CXddCopy& copy);
+/** Reports the changes of a copy, with their rules or their reasons, and writes it where that was asked for; in place
+ * only where something changed. */
+ECopied writeCopy(const SCopyRequest& request, const CXddDocument& document, const CXddCopy& copy, bool showsRules);
 
 /** Writes a copy for publishing. Refuses EDS files. */
 ECopied conformFile(const SCopyRequest& request, const QString& fileName);

@@ -42,7 +42,7 @@ void complain(const QString& text)
 
 void complainAbout(const QString& fileName, const CXddRemark& failure)
 {
-    const QString text = place(fileName, failure.mLine, failure.mColumn) + failure.mText;
+    const QString text = place(fileName, failure.mLine, failure.mColumn) + failure.text();
     failure.mLine == 0 ? complain(text) : reportLine(text);
 }
 
@@ -51,15 +51,18 @@ void reportLine(const QString& text)
     std::fprintf(stderr, "%s\n", qUtf8Printable(printable(text)));
 }
 
-void reportRemarks(const QString& fileName, const QList<CXddRemark>& remarks)
+void reportRemarks(const QString& fileName, const QList<CXddRemark>& remarks, int most, bool showsRules)
 {
-    for (const CXddRemark& remark : remarks) {
-        const QString reason = remark.mReason.isEmpty() ? QString() : QLatin1String(", ") + remark.mReason;
-        reportLine(place(fileName, remark.mLine) + remark.mText + reason);
+    for (const STold& told : summedUp(remarks, most)) {
+        const QString reason = told.remark.mReason.text();
+        const QString behind = showsRules         ? QStringLiteral(" [%1]").arg(told.remark.mRule)
+                               : reason.isEmpty() ? QString()
+                                                  : QLatin1String(", ") + reason;
+        reportLine(place(fileName, told.remark.mLine) + told.text + behind);
     }
 }
 
-QList<CXddRemark> summedUp(const QList<CXddRemark>& remarks, int most)
+QList<STold> summedUp(const QList<CXddRemark>& remarks, int most)
 {
     struct SGroup
     {
@@ -69,27 +72,27 @@ QList<CXddRemark> summedUp(const QList<CXddRemark>& remarks, int most)
     };
     QHash<QString, SGroup> groups;
     for (const CXddRemark& remark : remarks) {
-        SGroup& group = groups[remark.mGroup];
+        SGroup& group = groups[remark.group()];
         ++group.count;
         group.lastLine = remark.mLine;
     }
-    QList<CXddRemark> summary;
-    for (CXddRemark remark : remarks) {
-        SGroup& group = groups[remark.mGroup];
+    QList<STold> summary;
+    for (const CXddRemark& remark : remarks) {
+        SGroup& group = groups[remark.group()];
         if (group.isSummedUp) {
             continue;
         }
+        QString text = remark.text();
         if (group.count > most) {
             group.isSummedUp = true;
             const int others = group.count - 1;
-            QString more = QCoreApplication::translate("tools", "%1, and %n more like this", nullptr, others);
-            if (group.lastLine != 0) {
-                more = QCoreApplication::translate("tools", "%1, and %n more like this up to line %2", nullptr, others);
-            }
-            const QString line = QString::number(group.lastLine);
-            remark.mText = group.lastLine == 0 ? more.arg(remark.mText) : more.arg(remark.mText, line);
+            const QString more =
+                group.lastLine == 0
+                    ? QCoreApplication::translate("tools", "%1, and %n more like this", nullptr, others)
+                    : QCoreApplication::translate("tools", "%1, and %n more like this up to line %2", nullptr, others);
+            text = group.lastLine == 0 ? more.arg(text) : more.arg(text, QString::number(group.lastLine));
         }
-        summary << remark;
+        summary << STold{remark, text};
     }
     return summary;
 }

@@ -6,6 +6,8 @@
 #include <QList>
 #include <QString>
 
+#include <limits>
+
 /** @file
  * What tools say on standard error, and how texts of a file are shown.
  */
@@ -25,12 +27,23 @@ void complainAbout(const QString& fileName, const CXddRemark& failure);
 /** Writes a line as it is. */
 void reportLine(const QString& text);
 
-/** Writes a line for each remark: "FILE:LINE: text, reason". */
-void reportRemarks(const QString& fileName, const QList<CXddRemark>& remarks);
+/** As many remarks of one group are told one by one; EACH for all of them. */
+constexpr int MOST = 10;
+constexpr int EACH = std::numeric_limits<int>::max();
+
+/** A remark, and the text with which it stands for others that are alike. */
+struct STold
+{
+    CXddRemark remark;
+    QString text;
+};
 
 /** The remarks with more than @p most of one group summed up in the first of them: "and 12 more like this up to line
  * 99". */
-QList<CXddRemark> summedUp(const QList<CXddRemark>& remarks, int most = 10);
+QList<STold> summedUp(const QList<CXddRemark>& remarks, int most = MOST);
+
+/** Writes a line for each remark, summed up: "FILE:LINE: text, reason", or with the rule "FILE:LINE: text [rule]". */
+void reportRemarks(const QString& fileName, const QList<CXddRemark>& remarks, int most = MOST, bool showsRules = false);
 
 /** "FILE:LINE:COLUMN: " as far as they are known; "FILE: " for what is at no line. */
 QString place(const QString& fileName, int line, int column = 0);

@@ -112,7 +112,7 @@ void report(const SRequest& request, const QList<CXddNode>& nodes, const CXddDbc
 {
     for (int i = 0; i < nodes.size(); ++i) {
         const QList<CXddRemark> remarks = nodes[i].mDocument.remarks() + dbc.mRemarks[i];
-        reportRemarks(nodes[i].mDocument.name(), request.verbose ? remarks : summedUp(remarks));
+        reportRemarks(nodes[i].mDocument.name(), remarks, request.verbose ? EACH : MOST);
     }
 }
 

@@ -23,7 +23,7 @@ struct SNode
 // One line for each kind of loss, with its first place.
 void reportLosses(const SCopyRequest& request, const QString& fileName, const CXddEds& eds)
 {
-    reportRemarks(fileName, request.verbose ? eds.mLosses : summedUp(eds.mLosses, 1));
+    reportRemarks(fileName, eds.mLosses, request.verbose ? EACH : 1);
     const QString entries =
         QCoreApplication::translate("xdd2eds", "%1: %n entry(s)", nullptr, eds.mEntries).arg(fileName);
     reportLine(
@@ -57,7 +57,7 @@ ECopied convertFile(const SNode& node, const SCopyRequest& request, const QStrin
     const CXddEds eds =
         node.isAskedFor ? CXddEdsWriter::writeDcf(document, configured) : CXddEdsWriter::write(document);
     if (!request.quiet) {
-        reportRemarks(fileName, request.verbose ? document.remarks() : summedUp(document.remarks(), 1));
+        reportRemarks(fileName, document.remarks(), request.verbose ? EACH : 1);
         reportLosses(request, fileName, eds);
     }
     return request.dryRun || writeFile(request.destination.of(fileName), eds.mText) ? ECopied::Yes : ECopied::No;

@@ -20,17 +20,13 @@ const QString INDEX = QStringLiteral("index.html");
 ECopied writePage(
     const CXddPage::SOptions& options, const SCopyRequest& request, const QString& fileName, QList<CXddPage>& pages)
 {
-    CXddDocument document = openDescription(fileName);
+    const CXddDocument document = openDescription(fileName);
     if (!document.isOpen()) {
         return ECopied::No;
     }
     CXddPage page;
     {
         const COtherLanguage language(options.mLanguage);
-        if (document.form() != CXddDocument::FORM_XDD) {
-            // What is said while an EDS is opened is in the page, too.
-            document = CXddDocument::open(document.bytes(), document.name());
-        }
         page = CXddPage::write(document, options);
     }
     if (page.mText.isEmpty()) {

@@ -119,9 +119,7 @@ int CBaseline::gone() const
 
 CBaseline::SKey CBaseline::keyOf(const QString& description, const CXddRemark& finding) const
 {
-    static const QRegularExpression lines(QStringLiteral("\\b(lines?) \\d+"));
-    QString text = finding.mText;
-    return {pathOf(description), finding.mRule, finding.entry(), text.replace(lines, QStringLiteral("\\1"))};
+    return {pathOf(description), finding.mRule, finding.entry(), finding.comparable()};
 }
 
 // Relative to the folder of the baseline, so that it holds wherever that is.

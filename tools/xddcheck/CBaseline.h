@@ -23,7 +23,7 @@ public:
     /** Writes what was added. Complains and returns false when that fails. */
     bool write() const;
 
-    /** Adds the findings of a description; their texts are in English. */
+    /** Adds the findings of a description. */
     void add(const QString& description, const QList<CXddRemark>& findings);
     /** True for a finding that is known; each known one is recognised as often as it was added. */
     bool takes(const QString& description, const CXddRemark& finding);

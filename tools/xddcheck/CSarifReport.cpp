@@ -82,7 +82,7 @@ void CSarifReport::add(const QString& fileName, const QList<CXddRemark>& finding
             {key("ruleId"), finding.mRule},
             {key("ruleIndex"), mRuleIndex.value(finding.mRule)},
             {key("level"), CXddRemark::severityAsStr(finding.mSeverity)},
-            {key("message"), message(finding.mText)},
+            {key("message"), message(finding.text())},
             {key("locations"), QJsonArray{location(fileName, finding)}},
         });
     }

@@ -88,11 +88,11 @@ QString severityShown(CXddRemark::ESeverity severity, bool hasColors)
 
 void showText(const SRequest& request, const QString& fileName, const QList<CXddRemark>& findings, COutput& output)
 {
-    for (const CXddRemark& finding : request.verbose ? findings : summedUp(findings)) {
+    for (const auto& [finding, text] : summedUp(findings, request.verbose ? EACH : MOST)) {
         output.writeLine(
             printable(place(fileName, finding.mLine, finding.mColumn))
             + QStringLiteral("%1: %2 [%3]")
-                  .arg(severityShown(finding.mSeverity, request.hasColors), printable(finding.mText), finding.mRule));
+                  .arg(severityShown(finding.mSeverity, request.hasColors), printable(text), finding.mRule));
     }
 }
 
@@ -110,7 +110,7 @@ void showJson(const QString& fileName, const QList<CXddRemark>& findings, COutpu
             {QStringLiteral("rule"), finding.mRule},
             {QStringLiteral("index"), number(finding.mIndex)},
             {QStringLiteral("subIndex"), number(finding.mSubIndex)},
-            {QStringLiteral("text"), finding.mText},
+            {QStringLiteral("text"), finding.text()},
         };
         output.writeLine(printable(QString::fromUtf8(QJsonDocument(json).toJson(QJsonDocument::Compact))));
     }
@@ -170,32 +170,21 @@ QString chooseRules(SRequest& request, const QString& fileName, CRuleChoice& cho
     return error;
 }
 
-// The same findings in English, in which a baseline holds them.
-QList<CXddRemark> inEnglish(const CXddDocument& document)
-{
-    const COtherLanguage english(QStringLiteral("en"));
-    return CXddChecker::check(CXddDocument::open(document.bytes(), document.name()));
-}
-
 // Writes down the findings of a file for a baseline, or takes out those that are known.
-QList<CXddRemark> compared(
-    SOutputs& outputs, const CXddDocument& document, const CRuleChoice& choice, const QList<CXddRemark>& findings)
+QList<CXddRemark> compared(SOutputs& outputs, const QString& fileName, const QList<CXddRemark>& findings)
 {
     if (!outputs.baseline) {
         return findings;
     }
-    const QList<CXddRemark> english = choice.chosen(inEnglish(document));
     if (outputs.isBaselineWritten) {
-        outputs.baseline->add(document.name(), english);
+        outputs.baseline->add(fileName, findings);
         return {};
     }
-    outputs.baseline->lookedAt(document.name());
+    outputs.baseline->lookedAt(fileName);
     QList<CXddRemark> unknown;
-    for (int i = 0; i < findings.size(); ++i) {
-        // Sentences are put in order by their lines alone, so that each has its place in every language.
-        const CXddRemark& known = english.size() == findings.size() ? english[i] : findings[i];
-        if (!outputs.baseline->takes(document.name(), known)) {
-            unknown << findings[i];
+    for (const CXddRemark& finding : findings) {
+        if (!outputs.baseline->takes(fileName, finding)) {
+            unknown << finding;
         }
     }
     return unknown;
@@ -214,10 +203,10 @@ bool checkFile(SRequest& request, const QString& fileName, SOutputs& outputs, SC
     const CXddDocument document = readDescription(fileName);
     if (!document.isOpen() && document.failure().mRule.isEmpty()) {
         complainAbout(fileName, document.failure());
-        outputs.sarif.addFailure(fileName, document.failure().mText);
+        outputs.sarif.addFailure(fileName, document.failure().text());
         return false;
     }
-    const QList<CXddRemark> findings = compared(outputs, document, choice, choice.chosen(CXddChecker::check(document)));
+    const QList<CXddRemark> findings = compared(outputs, fileName, choice.chosen(CXddChecker::check(document)));
     switch (request.format) {
     case EFormat::Text:
         showText(request, fileName, findings, outputs.output);

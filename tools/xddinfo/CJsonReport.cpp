@@ -284,7 +284,7 @@ QJsonObject fieldJson(const CXddPdoField& field, CShownTexts& texts)
 
 QJsonObject toJson(const CXddRemark& remark)
 {
-    return {{key("line"), remark.mLine}, {key("entry"), remark.entry()}, {key("message"), remark.mText}};
+    return {{key("line"), remark.mLine}, {key("entry"), remark.entry()}, {key("message"), remark.text()}};
 }
 
 QJsonObject pdoJson(const CXddPdo& pdo, CShownTexts& texts)

@@ -141,7 +141,7 @@ void showPdos(const SRequest& request, const SShownDescription& description, COu
         remarks += pdo.mRemarks;
     }
     output.flush();
-    reportRemarks(description.fileName, summedUp(remarks));
+    reportRemarks(description.fileName, remarks);
 }
 
 bool show(const SRequest& request, const SShownDescription& description, COutput& output)
@@ -170,7 +170,7 @@ void reportRead(const QString& fileName, const QList<CXddRemark>& remarks)
             ++interpreted;
         }
     }
-    reportRemarks(fileName, summedUp(left));
+    reportRemarks(fileName, left);
     if (interpreted > 0) {
         complain(QCoreApplication::translate(
                      "xddinfo",

@@ -28,7 +28,7 @@ ECopied normalizeFile(const SCopyRequest& request, const QString& fileName)
         return ECopied::No;
     }
     const CXddCopy copy = CXddNormalizer::normalize(document);
-    const ECopied written = writeCopy(request, document, copy);
+    const ECopied written = writeCopy(request, document, copy, false);
     if (written == ECopied::Yes && !copy.mLoads) {
         complain(QCoreApplication::translate("xddnormalize", "%1: The copy does not load, because of what was left.")
                      .arg(fileName));

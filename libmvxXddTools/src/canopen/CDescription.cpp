@@ -108,15 +108,15 @@ QLatin1String CDescription::word(QLatin1String name) const
 
 bool CDescription::isCanOpen(CXddRemark& failure) const
 {
-    const auto refuse = [&](const QString& sentence, CRemarks::Arguments arguments) {
+    const auto refuse = [&](const SWords& words, CRemarks::Arguments arguments) {
         failure.mLine = root().line();
         failure.mColumn = root().place().column;
-        failure.mText = CRemarks::filled(sentence, arguments);
+        failure.mSentence = CRemarks::filled(words, arguments);
         return false;
     };
     if (!root().is(TAG_PROFILE_CONTAINER)) {
         return refuse(
-            CRemarks::tr("This is another kind of XML: the root element is <%1>, not <%2>."),
+            CRemarks::say("This is another kind of XML: the root element is <%1>, not <%2>."),
             {root().name(), TAG_PROFILE_CONTAINER});
     }
     bool isStated = false;
@@ -125,13 +125,14 @@ bool CDescription::isCanOpen(CXddRemark& failure) const
         const QString name = header.child(TAG_ISO15745_REFERENCE).child(TAG_ISO15745_TECHNOLOGY).text().trimmed();
         if (!name.isEmpty() && name.compare(VAL_CAN_OPEN, Qt::CaseInsensitive) != 0) {
             return refuse(
-                CRemarks::tr("This is a description of another technology: \"%1\", not \"%2\"."), {name, VAL_CAN_OPEN});
+                CRemarks::say("This is a description of another technology: \"%1\", not \"%2\"."),
+                {name, VAL_CAN_OPEN});
         }
         const CXmlElement body = profile.child(TAG_PROFILE_BODY);
         isStated = isStated || !name.isEmpty() || body.attribute(ATTR_TYPE).contains(VAL_CAN_OPEN)
                    || !objectListOf(body).isNull();
     }
-    return isStated || refuse(CRemarks::tr("Nothing says that this is a CANopen description."), {});
+    return isStated || refuse(CRemarks::say("Nothing says that this is a CANopen description."), {});
 }
 
 std::vector<CXmlElement> CDescription::bodiesOfType(QLatin1String type) const

@@ -93,13 +93,13 @@ private:
         mLayout.mIsEnabled = mPdo.number <= PREDEFINED_PDOS;
         if (!mLayout.mIsEnabled) {
             mLayout.mUsesNodeId = false;
-            mRemarks.add(at, CRemarks::tr("no COB-ID is stated: the PDO is taken as disabled"));
+            mRemarks.add(at, CRemarks::say("no COB-ID is stated: the PDO is taken as disabled"));
             return;
         }
         const quint64 first = mLayout.mIsTransmit ? FIRST_TRANSMIT_CAN_ID : FIRST_RECEIVE_CAN_ID;
         mLayout.mCanId = unsigned(first + (mPdo.number - 1) * PDO_CAN_ID_STEP) + mNodeId;
         mRemarks.add(
-            at, CRemarks::tr("no COB-ID is stated: the PDO is taken with the predefined CAN-ID %1"),
+            at, CRemarks::say("no COB-ID is stated: the PDO is taken with the predefined CAN-ID %1"),
             {hexadecimalText(mLayout.mCanId, 3)});
     }
 
@@ -108,14 +108,14 @@ private:
         const QString text = hexadecimalText(cobId, 3);
         if (!mLayout.mIsExtended && (cobId & CAN_ID_29 & ~CAN_ID_11) != 0) {
             mRemarks.add(
-                entry, CRemarks::tr("COB-ID %1 has more than 11 bits, but bit 29 is not set: it is taken as %2"),
+                entry, CRemarks::say("COB-ID %1 has more than 11 bits, but bit 29 is not set: it is taken as %2"),
                 {text, hexadecimalText(mLayout.mCanId, 3)});
         }
         if (mLayout.mCanId == 0) {
-            mRemarks.add(entry, CRemarks::tr("the CAN-ID is 0, which is that of the network management"));
+            mRemarks.add(entry, CRemarks::say("the CAN-ID is 0, which is that of the network management"));
         } else if (
             !mLayout.mIsExtended && isRestrictedCanId(mLayout.mCanId) && (mNodeId != 0 || !mLayout.mUsesNodeId)) {
-            mRemarks.add(entry, CRemarks::tr("CAN-ID %1 is restricted"), {hexadecimalText(mLayout.mCanId, 3)});
+            mRemarks.add(entry, CRemarks::say("CAN-ID %1 is restricted"), {hexadecimalText(mLayout.mCanId, 3)});
         }
         remarkOtherNode(entry, cobId);
     }
@@ -133,7 +133,7 @@ private:
         const quint64 canId = canIdOf(cobId);
         if (canId > base && canId <= base + MAX_NODE_ID && canId != base + mNodeId) {
             mRemarks.add(
-                entry, CRemarks::tr("the actual COB-ID %1 is that of node-ID %2"),
+                entry, CRemarks::say("the actual COB-ID %1 is that of node-ID %2"),
                 {hexadecimalText(cobId, 3), canId - base});
         }
     }
@@ -160,13 +160,14 @@ private:
     void layFields()
     {
         if (mPdo.mapping == nullptr) {
-            mRemarks.add(place(), CRemarks::tr("the PDO has no mapping"));
+            mRemarks.add(place(), CRemarks::say("the PDO has no mapping"));
             return;
         }
         if (!mPdo.active && !mPdo.fields.empty()) {
             mRemarks.add(
                 mPdo.count == nullptr ? mPdo.mapping->place() : mPdo.count->place(),
-                CRemarks::tr("no number of active entries is stated: those in front of the first empty one are taken"));
+                CRemarks::say(
+                    "no number of active entries is stated: those in front of the first empty one are taken"));
         }
         unsigned int offset = 0;
         for (const SPdoField& field : mPdo.fields) {
@@ -174,13 +175,13 @@ private:
                 continue;
             }
             if (field.index == 0 || field.bits == 0) {
-                mRemarks.add(*field.entry, CRemarks::tr("the active entry maps nothing"));
+                mRemarks.add(*field.entry, CRemarks::say("the active entry maps nothing"));
                 continue;
             }
             const bool fits = mLayout.mBeyond.isEmpty() && offset + field.bits <= MAX_PDO_BITS;
             if (!fits && mLayout.mBeyond.isEmpty()) {
                 mRemarks.add(
-                    *field.entry, CRemarks::tr("%1 and what follows it are left out: they are beyond %2 bits"),
+                    *field.entry, CRemarks::say("%1 and what follows it are left out: they are beyond %2 bits"),
                     {field.name(), MAX_PDO_BITS});
             }
             (fits ? mLayout.mFields : mLayout.mBeyond) << fieldAt(field, int(offset));
@@ -202,7 +203,7 @@ private:
             return field;
         }
         if (mapped.target == nullptr) {
-            mRemarks.add(*mapped.entry, CRemarks::tr("it maps %1, which does not exist"), {mapped.name()});
+            mRemarks.add(*mapped.entry, CRemarks::say("it maps %1, which does not exist"), {mapped.name()});
             return field;
         }
         field.mName = mapped.target->name;
@@ -212,7 +213,7 @@ private:
         field.mKind = kindOf(field.mDataType, field.mBits);
         if (bits != 0 && bits != field.mBits) {
             mRemarks.add(
-                *mapped.entry, CRemarks::tr("it maps %1 bits of %2, which is %3 with %4 bits"),
+                *mapped.entry, CRemarks::say("it maps %1 bits of %2, which is %3 with %4 bits"),
                 {field.mBits, mapped.name(), CCanOpenNames::dataType(field.mDataType), bits});
         } else {
             layRange(*mapped.target, field);

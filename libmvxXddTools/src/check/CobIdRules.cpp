@@ -60,20 +60,20 @@ bool isRestricted(const CValue& value)
 }
 
 // What is wrong with a COB-ID; nothing when it can be used. SDOs are at CAN-IDs that others must not use.
-QString faultOf(const SEntry& entry, const CValue& value)
+SWords faultOf(const SEntry& entry, const CValue& value)
 {
     const bool isCanId11 = isValid(value) && (value.bits() & COB_ID_EXTENDED) == 0;
     if (isSdo(entry)) {
-        return lacksNodeId(entry, value) ? CRemarks::tr("COB-ID %1 lacks $NODEID") : QString();
+        return lacksNodeId(entry, value) ? CRemarks::say("COB-ID %1 lacks $NODEID") : SWords();
     }
     if (isCanId11 && (value.bits() & CAN_ID_29 & ~CAN_ID_11) != 0) {
-        return CRemarks::tr("COB-ID %1 has more than 11 bits, but bit 29 is not set");
+        return CRemarks::say("COB-ID %1 has more than 11 bits, but bit 29 is not set");
     }
     if (!isCanId11 || !isRestricted(value)) {
         return {};
     }
-    return lacksNodeId(entry, value) ? CRemarks::tr("COB-ID %1 lacks $NODEID")
-                                     : CRemarks::tr("COB-ID %1 is restricted");
+    return lacksNodeId(entry, value) ? CRemarks::say("COB-ID %1 lacks $NODEID")
+                                     : CRemarks::say("COB-ID %1 is restricted");
 }
 
 void badCobId(const CDescription& description, CRemarks& findings)
@@ -83,7 +83,7 @@ void badCobId(const CDescription& description, CRemarks& findings)
         if (!value || !value->isInteger() || !(isSingle(entry) || isSdo(entry) || isPdo(entry))) {
             continue;
         }
-        const QString fault = faultOf(entry, *value);
+        const SWords fault = faultOf(entry, *value);
         if (!fault.isEmpty()) {
             findings.add(entry, fault, {quoted(entry.defaultValue, entry)});
         }
@@ -140,8 +140,8 @@ void cobIdClash(const CDescription& description, CRemarks& findings)
         const SEntry* const other = id ? first.value(*id) : nullptr;
         if (other != nullptr) {
             findings.add(
-                *entry, CRemarks::tr("COB-ID %1 is also that of %2 (line %3)"),
-                {quoted(entry->defaultValue, *entry), other->place().entry(), other->element.line()});
+                *entry, CRemarks::say("COB-ID %1 is also that of %2 (line %3)"),
+                {quoted(entry->defaultValue, *entry), other->place().entry(), SArgument::line(other->element.line())});
         } else if (id) {
             first.insert(*id, entry);
         }

@@ -48,11 +48,11 @@ void missingBodies(const CDescription& description, CRemarks& findings)
     for (const QLatin1String type : {VAL_DEVICE_BODY, VAL_NETWORK_BODY}) {
         const auto count = description.bodiesOfType(type).size();
         if (count != 1) {
-            findings.add(root, CRemarks::tr("%1 bodies of the type %2 instead of one"), {int(count), type});
+            findings.add(root, CRemarks::say("%1 bodies of the type %2 instead of one"), {int(count), type});
         }
     }
     if (description.objectLists().empty()) {
-        findings.add(root, CRemarks::tr("<%1> is missing"), {TAG_CAN_OPEN_OBJECT_LIST});
+        findings.add(root, CRemarks::say("<%1> is missing"), {TAG_CAN_OPEN_OBJECT_LIST});
     }
 }
 
@@ -62,7 +62,7 @@ void missingAttributes(
 {
     for (const QLatin1String attribute : attributes) {
         if (!element.has(attribute)) {
-            findings.add(place, CRemarks::tr("%1 is missing in <%2>"), {attribute, name});
+            findings.add(place, CRemarks::say("%1 is missing in <%2>"), {attribute, name});
         }
     }
 }
@@ -77,7 +77,7 @@ void missingItem(const CDescription& description, CRemarks& findings)
             }
             for (const QLatin1String child : required.children) {
                 if (element.child(child).isNull()) {
-                    findings.add(element, CRemarks::tr("<%1> is missing in <%2>"), {child, required.element});
+                    findings.add(element, CRemarks::say("<%1> is missing in <%2>"), {child, required.element});
                 }
             }
             missingAttributes(element.place(), element, required.element, required.attributes, findings);
@@ -127,24 +127,24 @@ bool isDecimalByte(const QString& text)
 void badNumber(const CDescription& description, CRemarks& findings)
 {
     for (const SEntry& entry : description.dictionary().entries()) {
-        const auto demand = [&](QLatin1String attribute, bool (*isGood)(const QString&), const QString& sentence) {
+        const auto demand = [&](QLatin1String attribute, bool (*isGood)(const QString&), const SWords& words) {
             const QString text = entry.element.attribute(attribute);
             if (isGood(text)) {
                 return;
             }
             if (hasHexadecimalPrefix(text)) {
-                findings.add(entry, CRemarks::tr("%1 \"%2\" has the prefix 0x"), {attribute, text});
+                findings.add(entry, CRemarks::say("%1 \"%2\" has the prefix 0x"), {attribute, text});
             } else {
-                findings.add(entry, sentence, {attribute, text});
+                findings.add(entry, words, {attribute, text});
             }
         };
-        demand(ATTR_INDEX, isIndex, CRemarks::tr("%1 \"%2\" is not four hexadecimal digits"));
-        demand(ATTR_SUB_INDEX, isSubIndex, CRemarks::tr("%1 \"%2\" is not a hexadecimal number up to FF"));
+        demand(ATTR_INDEX, isIndex, CRemarks::say("%1 \"%2\" is not four hexadecimal digits"));
+        demand(ATTR_SUB_INDEX, isSubIndex, CRemarks::say("%1 \"%2\" is not a hexadecimal number up to FF"));
         for (const QLatin1String attribute : {ATTR_DATA_TYPE, ATTR_OBJ_FLAGS}) {
-            demand(attribute, isOctets, CRemarks::tr("%1 \"%2\" is not an even number of hexadecimal digits"));
+            demand(attribute, isOctets, CRemarks::say("%1 \"%2\" is not an even number of hexadecimal digits"));
         }
         for (const QLatin1String attribute : {ATTR_OBJECT_TYPE, ATTR_SUB_NUMBER}) {
-            demand(attribute, isDecimalByte, CRemarks::tr("%1 \"%2\" is not a decimal number up to 255"));
+            demand(attribute, isDecimalByte, CRemarks::say("%1 \"%2\" is not a decimal number up to 255"));
         }
     }
 }
@@ -154,7 +154,7 @@ void numberWidth(const CDescription& description, CRemarks& findings)
     for (const SEntry& entry : description.dictionary().entries()) {
         const QString text = entry.element.attribute(ATTR_SUB_INDEX);
         if (!text.isNull() && isSubIndex(text) && text.size() != 2) {
-            findings.add(entry, CRemarks::tr("subIndex \"%1\" does not have two digits"), {text});
+            findings.add(entry, CRemarks::say("subIndex \"%1\" does not have two digits"), {text});
         }
     }
 }
@@ -214,7 +214,7 @@ void unknownWord(const CDescription& description, CRemarks& findings)
             const QString text = element.is(known.element) ? element.attribute(known.attribute) : QString();
             if (!text.isEmpty() && !known.words.contains(text)) {
                 findings.add(
-                    description.placeOf(element), CRemarks::tr("%1 \"%2\" of <%3> is not one of: %4"),
+                    description.placeOf(element), CRemarks::say("%1 \"%2\" of <%3> is not one of: %4"),
                     {known.attribute, text, known.element, SArgument::word(known.words.join(QLatin1String(", ")))});
             }
         }
@@ -227,7 +227,7 @@ void badDate(const CDescription& description, CRemarks& findings)
         const auto demand = [&](QLatin1String attribute, bool isGood, QLatin1String form) {
             const QString text = profile.body.attribute(attribute);
             if (!text.isEmpty() && !isGood) {
-                findings.add(profile.body, CRemarks::tr("%1 \"%2\" is not %3"), {attribute, text, form});
+                findings.add(profile.body, CRemarks::say("%1 \"%2\" is not %3"), {attribute, text, form});
             }
         };
         for (const QLatin1String date : {ATTR_FILE_CREATION_DATE, ATTR_FILE_MODIFICATION_DATE}) {
@@ -245,7 +245,8 @@ void duplicateId(const CDescription& description, CRemarks& findings)
         const QString id = element.attribute(ATTR_UNIQUE_ID);
         const CXmlElement first = id.isEmpty() ? element : description.references().byId(id);
         if (!(first == element)) {
-            findings.add(element, CRemarks::tr("uniqueID \"%1\" duplicates line %2"), {id, first.line()});
+            findings.add(
+                element, CRemarks::say("uniqueID \"%1\" duplicates line %2"), {id, SArgument::line(first.line())});
         }
     }
 }
@@ -260,11 +261,11 @@ void danglingReference(const CDescription& description, CRemarks& findings)
         const CXmlElement referred = description.references().byId(id);
         const SPlace place = description.placeOf(element);
         if (referred.isNull()) {
-            findings.add(place, CRemarks::tr("uniqueIDRef \"%1\" of <%2> refers to nothing"), {id, element.name()});
+            findings.add(place, CRemarks::say("uniqueIDRef \"%1\" of <%2> refers to nothing"), {id, element.name()});
         } else if (place.isEntry && !referred.is(TAG_PARAMETER)) {
             findings.add(
-                place, CRemarks::tr("uniqueIDRef \"%1\" of <%2> refers to <%3> in line %4, which is not a parameter"),
-                {id, element.name(), referred.name(), referred.line()});
+                place, CRemarks::say("uniqueIDRef \"%1\" of <%2> refers to <%3> in line %4, which is not a parameter"),
+                {id, element.name(), referred.name(), SArgument::line(referred.line())});
         }
     }
 }

@@ -35,9 +35,9 @@ void compareWithObject(const CDescription& description, QLatin1String name, unsi
         const SReadings readings = readingsOf(element.text());
         if (readings.isNumber() && !readings.isZero() && readings.byPrefix != value && readings.hexadecimal != value) {
             findings.add(
-                element, CRemarks::tr("%1 \"%2\" is not the default %3 of %4 (line %5)"),
+                element, CRemarks::say("%1 \"%2\" is not the default %3 of %4 (line %5)"),
                 {description.word(name), element.text().trimmed(), entry->defaultValue.text, entry->place().entry(),
-                 entry->defaultValue.source.line()});
+                 SArgument::line(entry->defaultValue.source.line())});
         }
     }
 }
@@ -54,7 +54,7 @@ void identityNumber(const CDescription& description, CRemarks& findings)
         const CXmlElement element = identity.child(TAG_VENDOR_ID);
         const QString text = element.text().trimmed();
         if (!text.isEmpty() && !readingsOf(text).isNumber()) {
-            findings.add(element, CRemarks::tr("%1 \"%2\" is not a number"), {description.word(TAG_VENDOR_ID), text});
+            findings.add(element, CRemarks::say("%1 \"%2\" is not a number"), {description.word(TAG_VENDOR_ID), text});
         }
     }
 }
@@ -66,9 +66,9 @@ void emptyIdentity(const CDescription& description, CRemarks& findings)
             const CXmlElement element = identity.child(name);
             const QString text = element.text().trimmed();
             if (!element.isNull() && text.isEmpty()) {
-                findings.add(element, CRemarks::tr("%1 is empty"), {description.word(name)});
+                findings.add(element, CRemarks::say("%1 is empty"), {description.word(name)});
             } else if (element.is(TAG_VENDOR_ID) && readingsOf(text).isZero()) {
-                findings.add(element, CRemarks::tr("%1 is 0"), {description.word(name)});
+                findings.add(element, CRemarks::say("%1 is 0"), {description.word(name)});
             }
         }
     }

@@ -18,7 +18,7 @@ void pdoCount(const CDescription& description, CRemarks& findings)
             const unsigned int count = countOf(description.pdos(), direction);
             if (stated && *stated != count) {
                 findings.add(
-                    features, CRemarks::tr("%1 is %2, but the number of PDOs is %3"),
+                    features, CRemarks::say("%1 is %2, but the number of PDOs is %3"),
                     {description.word(attribute), features.attribute(attribute), count});
             }
         };
@@ -40,11 +40,11 @@ void granularity(const CDescription& description, CRemarks& findings)
         const auto stated = CXmlValue::toNumber(features.attribute(ATTR_GRANULARITY), 10);
         if (stated == 0U && writable > 0 && fixed == 0) {
             findings.add(
-                features, CRemarks::tr("%1 is 0 (fixed mappings), but every mapping can be written"),
+                features, CRemarks::say("%1 is 0 (fixed mappings), but every mapping can be written"),
                 {description.word(ATTR_GRANULARITY)});
         } else if (stated.value_or(0) != 0 && writable == 0 && fixed > 0) {
             findings.add(
-                features, CRemarks::tr("%1 is %2, but no mapping can be written"),
+                features, CRemarks::say("%1 is %2, but no mapping can be written"),
                 {description.word(ATTR_GRANULARITY), *stated});
         }
     }
@@ -54,13 +54,13 @@ void missingBitRate(const CDescription& description, CRemarks& findings)
 {
     for (const CXmlElement& baudRate : description.bitRates()) {
         if (baudRate.child(TAG_SUPPORTED_BAUD_RATE).isNull()) {
-            findings.add(baudRate, CRemarks::tr("<%1> is missing in <%2>"), {TAG_SUPPORTED_BAUD_RATE, TAG_BAUD_RATE});
+            findings.add(baudRate, CRemarks::say("<%1> is missing in <%2>"), {TAG_SUPPORTED_BAUD_RATE, TAG_BAUD_RATE});
         }
     }
     // An EDS that states none has no element for it.
     if (description.form() != EForm::Xdd && description.bitRates().empty()) {
         for (const CXmlElement& features : description.managementElements(TAG_GENERAL_FEATURES)) {
-            findings.add(features, CRemarks::tr("no bit rate is supported"));
+            findings.add(features, CRemarks::say("no bit rate is supported"));
         }
     }
 }
@@ -75,7 +75,7 @@ void defaultBitRate(const CDescription& description, CRemarks& findings)
         }
         if (!stated.isEmpty() && !supported.isEmpty() && !supported.contains(stated)) {
             findings.add(
-                baudRate, CRemarks::tr("the default bit rate \"%1\" is not one of the supported: %2"),
+                baudRate, CRemarks::say("the default bit rate \"%1\" is not one of the supported: %2"),
                 {stated, supported.join(QLatin1String(", "))});
         }
     }
@@ -93,7 +93,7 @@ void nodeId(const CDescription& description, CRemarks& findings)
             const std::optional<CInteger> number = readInteger(text);
             const bool isNodeId = number && number->unsigned32().value_or(MAX_NODE_ID + 1) <= MAX_NODE_ID;
             if (!text.isEmpty() && !isNodeId) {
-                findings.add(commissioning, CRemarks::tr("%1 \"%2\" is not a number up to 127"), {name, text});
+                findings.add(commissioning, CRemarks::say("%1 \"%2\" is not a number up to 127"), {name, text});
             }
         }
     }

@@ -23,7 +23,8 @@ void duplicateIndex(const CDescription& description, CRemarks& findings)
     forObjects(description, [&](const SEntry& object) {
         const SEntry* const first = object.index ? description.dictionary().object(*object.index) : &object;
         if (first != &object) {
-            findings.add(object, CRemarks::tr("the object duplicates line %1"), {first->element.line()});
+            findings.add(
+                object, CRemarks::say("the object duplicates line %1"), {SArgument::line(first->element.line())});
         }
     });
 }
@@ -38,8 +39,8 @@ void duplicateSubIndex(const CDescription& description, CRemarks& findings)
             }
             if (first.contains(*entry->subIndex)) {
                 findings.add(
-                    *entry, CRemarks::tr("the sub-object duplicates line %1"),
-                    {first.value(*entry->subIndex)->element.line()});
+                    *entry, CRemarks::say("the sub-object duplicates line %1"),
+                    {SArgument::line(first.value(*entry->subIndex)->element.line())});
             } else {
                 first.insert(*entry->subIndex, entry);
             }
@@ -51,7 +52,7 @@ void indexRange(const CDescription& description, CRemarks& findings)
 {
     forObjects(description, [&](const SEntry& object) {
         if (object.index && !isBetween(*object.index, 0x0001, 0x025F) && !isBetween(*object.index, 0x1000, 0xBFFF)) {
-            findings.add(object, CRemarks::tr("the index is reserved"));
+            findings.add(object, CRemarks::say("the index is reserved"));
         }
     });
 }
@@ -63,8 +64,8 @@ void objectType(const CDescription& description, CRemarks& findings)
         if (entry.objectCode && !isKnown) {
             findings.add(
                 entry.place(),
-                entry.isSubObject ? CRemarks::tr("the object code %1 is not allowed for a sub-object (2 or 7 is)")
-                                  : CRemarks::tr("the object code %1 is not allowed for an object (2 and 5 to 9 are)"),
+                entry.isSubObject ? CRemarks::say("the object code %1 is not allowed for a sub-object (2 or 7 is)")
+                                  : CRemarks::say("the object code %1 is not allowed for an object (2 and 5 to 9 are)"),
                 {entry.element.attribute(ATTR_OBJECT_TYPE)});
         }
     }
@@ -74,7 +75,7 @@ void missingSubObjects(const CDescription& description, CRemarks& findings)
 {
     forObjects(description, [&](const SEntry& object) {
         if (codeOf(object).hasSubObjects && object.subObjects == 0) {
-            findings.add(object, CRemarks::tr("%1 without sub-objects"), {codeOf(object).name});
+            findings.add(object, CRemarks::say("%1 without sub-objects"), {codeOf(object).name});
         }
     });
 }
@@ -84,7 +85,7 @@ void subObjectsOfVariable(const CDescription& description, CRemarks& findings)
     forObjects(description, [&](const SEntry& object) {
         if (codeOf(object).isOfObject && !codeOf(object).hasSubObjects && object.subObjects > 0) {
             findings.add(
-                object, CRemarks::tr("%1 with %n sub-object(s)", nullptr, object.subObjects), {codeOf(object).name});
+                object, CRemarks::say("%1 with %n sub-object(s)", nullptr, object.subObjects), {codeOf(object).name});
         }
     });
 }
@@ -96,7 +97,7 @@ void missingSubIndex0(const CDescription& description, CRemarks& findings)
         const bool hasFirst = std::any_of(
             subObjects.begin(), subObjects.end(), [](const SEntry* entry) { return entry->subIndex == 0U; });
         if (codeOf(object).hasSubObjects && object.subObjects > 0 && !hasFirst) {
-            findings.add(object, CRemarks::tr("%1 without sub-index 0"), {codeOf(object).name});
+            findings.add(object, CRemarks::say("%1 without sub-index 0"), {codeOf(object).name});
         }
     });
 }
@@ -114,7 +115,7 @@ void missingMandatoryObject(const CDescription& description, CRemarks& findings)
     for (const unsigned int index : {0x1000U, 0x1001U, 0x1018U}) {
         if (!lists.empty() && isDevice(description) && description.dictionary().object(index) == nullptr) {
             findings.add(
-                lists.front().place(), CRemarks::tr("object %1 is missing"),
+                lists.front().place(), CRemarks::say("object %1 is missing"),
                 {SArgument::word(CCanOpenNames::entry(index))});
         }
     }
@@ -129,7 +130,7 @@ void missingErrorControl(const CDescription& description, CRemarks& findings)
     if (!lists.empty() && isDevice(description) && !has(0x1017) && !(has(0x100C) && has(0x100D))) {
         findings.add(
             lists.front().place(),
-            CRemarks::tr("there is neither a heartbeat (0x1017) nor node guarding (0x100C and 0x100D)"));
+            CRemarks::say("there is neither a heartbeat (0x1017) nor node guarding (0x100C and 0x100D)"));
     }
 }
 
@@ -158,7 +159,7 @@ void highestSubIndex(const CDescription& description, CRemarks& findings)
             first != nullptr && (!isWritable(first->access.value) || object.index.value_or(0) < 0x2000);
         if (stated && isFixed && *stated != CInteger(false, highest)) {
             findings.add(
-                *first, CRemarks::tr("the default %1 is not the highest sub-index %2"),
+                *first, CRemarks::say("the default %1 is not the highest sub-index %2"),
                 {quoted(first->defaultValue, *first), highest});
         }
     });
@@ -171,7 +172,7 @@ void subNumber(const CDescription& description, CRemarks& findings)
         const auto stated = CXmlValue::toNumber(text, 10);
         if (object.subObjects > 0 && stated && *stated != unsigned(object.subObjects)) {
             findings.add(
-                object, CRemarks::tr("%1 is %2, but the number of sub-objects is %3"),
+                object, CRemarks::say("%1 is %2, but the number of sub-objects is %3"),
                 {description.word(ATTR_SUB_NUMBER), text, object.subObjects});
         }
     });
@@ -188,7 +189,7 @@ void objectCount(const CDescription& description, CRemarks& findings)
             const unsigned int count = found[std::size_t(kind)];
             if (stated && *stated != count) {
                 findings.add(
-                    list, CRemarks::tr("%1 is %2, but the number of such objects is %3"),
+                    list, CRemarks::say("%1 is %2, but the number of such objects is %3"),
                     {attribute, list.attribute(attribute), count});
             }
         };

@@ -33,8 +33,8 @@ void pdoWithoutPartner(const CDescription& description, CRemarks& findings)
         if (description.dictionary().object(partner) == nullptr) {
             findings.add(
                 object.place(),
-                isMapping ? CRemarks::tr("the PDO has no communication parameters %1")
-                          : CRemarks::tr("the PDO has no mapping %1"),
+                isMapping ? CRemarks::say("the PDO has no communication parameters %1")
+                          : CRemarks::say("the PDO has no mapping %1"),
                 {CCanOpenNames::entry(partner)});
         }
     });
@@ -45,9 +45,9 @@ void mappedObjectMissing(const CDescription& description, CRemarks& findings)
     forMapped(description, [&](const SPdo& pdo, const SPdoField& field) {
         if (field.isDummy() && pdo.direction == EPdoDirection::Transmit) {
             findings.add(
-                *field.entry, CRemarks::tr("a TPDO maps a dummy (%1), which only an RPDO can"), {field.name()});
+                *field.entry, CRemarks::say("a TPDO maps a dummy (%1), which only an RPDO can"), {field.name()});
         } else if (!field.isDummy() && field.target == nullptr) {
-            findings.add(*field.entry, CRemarks::tr("it maps %1, which does not exist"), {field.name()});
+            findings.add(*field.entry, CRemarks::say("it maps %1, which does not exist"), {field.name()});
         }
     });
 }
@@ -61,7 +61,7 @@ void mappedLength(const CDescription& description, CRemarks& findings)
         const int bits = bitSize(type);
         if (bits != 0 && unsigned(bits) != field.bits) {
             findings.add(
-                *field.entry, CRemarks::tr("it maps %1 bits of %2, which is %3 with %4 bits"),
+                *field.entry, CRemarks::say("it maps %1 bits of %2, which is %3 with %4 bits"),
                 {field.bits, field.name(), CCanOpenNames::dataType(type), bits});
         }
     });
@@ -72,8 +72,8 @@ void mappedObjectNotMappable(const CDescription& description, CRemarks& findings
     forMapped(description, [&](const SPdo&, const SPdoField& field) {
         if (field.target != nullptr && field.target->mapping == EMapping::No) {
             findings.add(
-                *field.entry, CRemarks::tr("it maps %1 (line %2), which must not be mapped"),
-                {field.name(), field.target->element.line()});
+                *field.entry, CRemarks::say("it maps %1 (line %2), which must not be mapped"),
+                {field.name(), SArgument::line(field.target->element.line())});
         }
     });
 }
@@ -87,7 +87,7 @@ void pdoTooLong(const CDescription& description, CRemarks& findings)
         }
         if (bits > MAX_PDO_BITS) {
             findings.add(
-                *pdo.mapping, CRemarks::tr("the active entries have %1 bits in total, more than %2"),
+                *pdo.mapping, CRemarks::say("the active entries have %1 bits in total, more than %2"),
                 {bits, MAX_PDO_BITS});
         }
     }
@@ -101,13 +101,13 @@ void mappingCount(const CDescription& description, CRemarks& findings)
         }
         if (*pdo.active > MAX_MAPPED || *pdo.active > pdo.highestSubIndex()) {
             findings.add(
-                *pdo.count, CRemarks::tr("%1 entries are active, but %2 is the highest sub-index"),
+                *pdo.count, CRemarks::say("%1 entries are active, but %2 is the highest sub-index"),
                 {*pdo.active, pdo.highestSubIndex()});
         }
         for (const SPdoField& field : pdo.fields) {
             if (field.isActive && field.isNumber && field.mapsNothing()) {
                 findings.add(
-                    *field.entry, CRemarks::tr("it maps nothing, but is one of %1 active entries"), {*pdo.active});
+                    *field.entry, CRemarks::say("it maps nothing, but is one of %1 active entries"), {*pdo.active});
             }
         }
     }
@@ -120,7 +120,7 @@ void mappingGap(const CDescription& description, CRemarks& findings)
         for (const SPdoField& field : pdo.fields) {
             if (*field.entry->subIndex > expected) {
                 findings.add(
-                    *pdo.mapping, CRemarks::tr("sub-index %1 is missing below %2"), {expected, pdo.highestSubIndex()});
+                    *pdo.mapping, CRemarks::say("sub-index %1 is missing below %2"), {expected, pdo.highestSubIndex()});
                 break;
             }
             expected = *field.entry->subIndex + 1;
@@ -129,24 +129,25 @@ void mappingGap(const CDescription& description, CRemarks& findings)
 }
 
 // What an entry says of its access, as a text for a message.
-QString accessOf(const SEntry& entry)
+CXddSentence accessOf(const SEntry& entry)
 {
     const SProperty<EAccess>& access = entry.access;
     return access.isGiven()
-               ? CRemarks::filled(CRemarks::tr("access %1"), {quoted(access.text, access.source, entry.element)})
+               ? CRemarks::filled(CRemarks::say("access %1"), {quoted(access.text, access.source, entry.element)})
                : CRemarks::filled(
-                   CRemarks::tr("access \"read\", which is the default of its parameter (line %1)"),
-                   {access.source.line()});
+                   CRemarks::say("access \"read\", which is the default of its parameter (line %1)"),
+                   {SArgument::line(access.source.line())});
 }
 
 // Why an object cannot be in a PDO of a direction; nothing when it can.
-QString obstacle(EPdoDirection direction, const SEntry& object)
+CXddSentence obstacle(EPdoDirection direction, const SEntry& object)
 {
     if (forbidsDirection(object.access.value, direction)) {
         return accessOf(object);
     }
     const bool isOther = onlyDirection(object.mapping).value_or(direction) != direction;
-    return isOther ? CRemarks::filled(CRemarks::tr("PDOmapping \"%1\""), {mappingText(object.mapping)}) : QString();
+    return isOther ? CRemarks::filled(CRemarks::say("PDOmapping \"%1\""), {mappingText(object.mapping)})
+                   : CXddSentence();
 }
 
 void pdoDirection(const CDescription& description, CRemarks& findings)
@@ -155,17 +156,18 @@ void pdoDirection(const CDescription& description, CRemarks& findings)
         const std::optional<EPdoDirection> direction = onlyDirection(entry.mapping);
         if (direction && forbidsDirection(entry.access.value, *direction)) {
             findings.add(
-                entry, CRemarks::tr("PDOmapping \"%1\" contradicts %2"), {mappingText(entry.mapping), accessOf(entry)});
+                entry, CRemarks::say("PDOmapping \"%1\" contradicts %2"),
+                {mappingText(entry.mapping), accessOf(entry)});
         }
     });
     forMapped(description, [&](const SPdo& pdo, const SPdoField& field) {
-        const QString reason = field.target == nullptr ? QString() : obstacle(pdo.direction, *field.target);
+        const CXddSentence reason = field.target == nullptr ? CXddSentence() : obstacle(pdo.direction, *field.target);
         if (!reason.isEmpty()) {
             findings.add(
                 field.entry->place(),
-                pdo.direction == EPdoDirection::Receive ? CRemarks::tr("an RPDO maps %1 (line %2), which has %3")
-                                                        : CRemarks::tr("a TPDO maps %1 (line %2), which has %3"),
-                {field.name(), field.target->element.line(), reason});
+                pdo.direction == EPdoDirection::Receive ? CRemarks::say("an RPDO maps %1 (line %2), which has %3")
+                                                        : CRemarks::say("a TPDO maps %1 (line %2), which has %3"),
+                {field.name(), SArgument::line(field.target->element.line()), reason});
         }
     });
 }
@@ -180,7 +182,7 @@ void transmissionType(const CDescription& description, CRemarks& findings)
         }
         const unsigned int last = direction == EPdoDirection::Receive ? 253 : 251;
         if (value->magnitude() >= 241 && value->magnitude() <= last) {
-            findings.add(entry, CRemarks::tr("transmission type %1 is reserved (241 to %2)"), {value->text(), last});
+            findings.add(entry, CRemarks::say("transmission type %1 is reserved (241 to %2)"), {value->text(), last});
         }
     }
 }
@@ -196,7 +198,7 @@ void heartbeatConsumer(const CDescription& description, CRemarks& findings)
         if (value->isNegative() || bits >> 24U != 0 || ((bits >> 16U) & 0xFFU) > MAX_NODE_ID) {
             findings.add(
                 entry.place(),
-                CRemarks::tr("%1 has no node-ID from 1 to 127 in bits 16 to 23, or has bits above these"),
+                CRemarks::say("%1 has no node-ID from 1 to 127 in bits 16 to 23, or has bits above these"),
                 {quoted(entry.defaultValue, entry)});
         }
     }

@@ -21,7 +21,7 @@ void subIndex0Type(const CDescription& description, CRemarks& findings)
             entry.isSubObject && entry.subIndex == 0U && description.dictionary().objectOf(entry).isArrayOrRecord();
         if (isFirst && type != 0 && type != TYPE_UNSIGNED8) {
             findings.add(
-                entry, CRemarks::tr("the data type is %1 instead of UNSIGNED8"), {CCanOpenNames::dataType(type)});
+                entry, CRemarks::say("the data type is %1 instead of UNSIGNED8"), {CCanOpenNames::dataType(type)});
         }
     }
 }
@@ -35,10 +35,10 @@ void missingDataType(const CDescription& description, CRemarks& findings)
         }
         if (entry.dataType.isGiven()) {
             findings.add(
-                entry, CRemarks::tr("%1 \"%2\" is not a data type"),
+                entry, CRemarks::say("%1 \"%2\" is not a data type"),
                 {description.word(ATTR_DATA_TYPE), entry.dataType.text});
         } else {
-            findings.add(entry, CRemarks::tr("VAR without a data type"));
+            findings.add(entry, CRemarks::say("VAR without a data type"));
         }
     });
 }
@@ -49,9 +49,9 @@ void unknownDataType(const CDescription& description, CRemarks& findings)
         const unsigned int type = entry.dataType.value;
         const EValueKind kind = valueKind(type);
         if (kind == EValueKind::Record) {
-            findings.add(entry, CRemarks::tr("the data type %1 is that of a record"), {CCanOpenNames::dataType(type)});
+            findings.add(entry, CRemarks::say("the data type %1 is that of a record"), {CCanOpenNames::dataType(type)});
         } else if (type != 0 && kind == EValueKind::None && !isBetween(type, FIRST_OWN_TYPE, LAST_TYPE)) {
-            findings.add(entry, CRemarks::tr("the data type %1 is unknown"), {CCanOpenNames::dataType(type)});
+            findings.add(entry, CRemarks::say("the data type %1 is unknown"), {CCanOpenNames::dataType(type)});
         }
     });
 }
@@ -60,7 +60,7 @@ void missingAccessType(const CDescription& description, CRemarks& findings)
 {
     forVariables(description, [&](const SEntry& entry) {
         if (entry.access.value == EAccess::NotStated) {
-            findings.add(entry, CRemarks::tr("no access type is stated"));
+            findings.add(entry, CRemarks::say("no access type is stated"));
         }
     });
 }
@@ -71,7 +71,7 @@ void noAccess(const CDescription& description, CRemarks& findings)
         const bool isOnlyMapped = isMappable(entry.mapping) && entry.index.value_or(0) >= 0x2000;
         if (entry.access.value == EAccess::None && !isOnlyMapped) {
             findings.add(
-                entry, CRemarks::tr("it can be neither read nor written: access is %1"),
+                entry, CRemarks::say("it can be neither read nor written: access is %1"),
                 {quoted(entry.access.text, entry.access.source, entry.element)});
         }
     });
@@ -82,7 +82,7 @@ void conflict(
     const SEntry& entry, QLatin1String attribute, const QString& stated, const CXmlElement& source, CRemarks& findings)
 {
     findings.add(
-        entry, CRemarks::tr("%1 \"%2\" differs from %3 of its parameter"),
+        entry, CRemarks::say("%1 \"%2\" differs from %3 of its parameter"),
         {attribute, entry.element.attribute(attribute), quoted(stated, source, entry.element)});
 }
 
@@ -141,9 +141,9 @@ bool isOtherType(const SDeclared& declared, const SEntry& entry)
 void otherType(const SDeclared& declared, const SEntry& entry, CRemarks& findings)
 {
     findings.add(
-        declared.element, CRemarks::tr("<%1> \"%2\" has the type %3, but %4 (line %5) has %6"),
+        declared.element, CRemarks::say("<%1> \"%2\" has the type %3, but %4 (line %5) has %6"),
         {SArgument::word(declared.element.name()), declared.element.attribute(ATTR_NAME),
-         CCanOpenNames::dataType(declared.type), entry.place().entry(), entry.element.line(),
+         CCanOpenNames::dataType(declared.type), entry.place().entry(), SArgument::line(entry.element.line()),
          CCanOpenNames::dataType(entry.dataType.value)});
 }
 
@@ -164,10 +164,10 @@ void structConflict(
     if (members.size() != subObjects.size()) {
         findings.add(
             structure.place(),
-            CRemarks::tr(
+            CRemarks::say(
                 "the structure has %n member(s), but %1 (line %2) has another number of sub-objects: %3", nullptr,
                 int(members.size())),
-            {object.place().entry(), object.element.line(), int(subObjects.size())});
+            {object.place().entry(), SArgument::line(object.element.line()), int(subObjects.size())});
         return;
     }
     for (std::size_t member = 0; member < members.size(); ++member) {
@@ -259,7 +259,7 @@ void standardObjectType(const CDescription& description, CRemarks& findings)
         const unsigned int type = standardType(*entry.index, entry.subIndex.value_or(0));
         if (type != 0 && entry.dataType.value != type) {
             findings.add(
-                entry, CRemarks::tr("the data type is %1, but CiA 301 specifies %2"),
+                entry, CRemarks::say("the data type is %1, but CiA 301 specifies %2"),
                 {CCanOpenNames::dataType(entry.dataType.value), CCanOpenNames::dataType(type)});
         }
     });

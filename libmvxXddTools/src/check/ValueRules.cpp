@@ -9,17 +9,20 @@ namespace
 // A value or limit of an entry, and what it is called.
 struct SNamedValue
 {
-    QString name;
+    SArgument name; // A word
     const SValueProperty& property;
 };
 
 std::array<SNamedValue, 4> valuesOf(const SEntry& entry)
 {
+    const auto name = [](const SWords& words) {
+        return SArgument(CRemarks::filled(words)).asWord();
+    };
     return {
-        {{CRemarks::tr("default value"), entry.defaultValue},
-         {CRemarks::tr("actual value"), entry.actualValue},
-         {CRemarks::tr("low limit"), entry.lowLimit},
-         {CRemarks::tr("high limit"), entry.highLimit}}};
+        {{name(CRemarks::say("default value")), entry.defaultValue},
+         {name(CRemarks::say("actual value")), entry.actualValue},
+         {name(CRemarks::say("low limit")), entry.lowLimit},
+         {name(CRemarks::say("high limit")), entry.highLimit}}};
 }
 
 // Calls for every entry of a type whose values are known.
@@ -56,9 +59,8 @@ void badValue(const CDescription& description, CRemarks& findings)
     forValues(description, [&](const SEntry& entry, const SNamedValue& value) {
         if (!value.property.value) {
             findings.add(
-                entry, CRemarks::tr("%1 %2 is not a value of %3"),
-                {SArgument::word(value.name), quoted(value.property, entry),
-                 CCanOpenNames::dataType(entry.dataType.value)});
+                entry, CRemarks::say("%1 %2 is not a value of %3"),
+                {value.name, quoted(value.property, entry), CCanOpenNames::dataType(entry.dataType.value)});
         }
     });
 }
@@ -68,9 +70,8 @@ void valueOutOfRange(const CDescription& description, CRemarks& findings)
     forValues(description, [&](const SEntry& entry, const SNamedValue& value) {
         if (value.property.value && !value.property.value->fits(entry.dataType.value)) {
             findings.add(
-                entry, CRemarks::tr("%1 %2 is outside the range of %3"),
-                {SArgument::word(value.name), quoted(value.property, entry),
-                 CCanOpenNames::dataType(entry.dataType.value)});
+                entry, CRemarks::say("%1 %2 is outside the range of %3"),
+                {value.name, quoted(value.property, entry), CCanOpenNames::dataType(entry.dataType.value)});
         }
     });
 }
@@ -80,7 +81,7 @@ void limitsReversed(const CDescription& description, CRemarks& findings)
     forTyped(description, [&](const SEntry& entry) {
         if (isBelow(entry.highLimit, entry.lowLimit)) {
             findings.add(
-                entry, CRemarks::tr("low limit %1 is above high limit %2"),
+                entry, CRemarks::say("low limit %1 is above high limit %2"),
                 {quoted(entry.lowLimit, entry), quoted(entry.highLimit, entry)});
         }
     });
@@ -93,13 +94,13 @@ void valueOutsideLimits(const CDescription& description, CRemarks& findings)
         for (const SNamedValue& value : {values[0], values[1]}) {
             if (isBelow(value.property, entry.lowLimit)) {
                 findings.add(
-                    entry, CRemarks::tr("%1 %2 is below low limit %3"),
-                    {SArgument::word(value.name), quoted(value.property, entry), quoted(entry.lowLimit, entry)});
+                    entry, CRemarks::say("%1 %2 is below low limit %3"),
+                    {value.name, quoted(value.property, entry), quoted(entry.lowLimit, entry)});
             }
             if (isBelow(entry.highLimit, value.property)) {
                 findings.add(
-                    entry, CRemarks::tr("%1 %2 is above high limit %3"),
-                    {SArgument::word(value.name), quoted(value.property, entry), quoted(entry.highLimit, entry)});
+                    entry, CRemarks::say("%1 %2 is above high limit %3"),
+                    {value.name, quoted(value.property, entry), quoted(entry.highLimit, entry)});
             }
         }
     });
@@ -110,8 +111,7 @@ void nodeIdNotFirst(const CDescription& description, CRemarks& findings)
     forValues(description, [&](const SEntry& entry, const SNamedValue& value) {
         if (value.property.value && value.property.value->isNodeIdLast()) {
             findings.add(
-                entry, CRemarks::tr("%1 %2 does not begin with $NODEID"),
-                {SArgument::word(value.name), quoted(value.property, entry)});
+                entry, CRemarks::say("%1 %2 does not begin with $NODEID"), {value.name, quoted(value.property, entry)});
         }
     });
 }

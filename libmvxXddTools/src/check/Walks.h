@@ -16,11 +16,9 @@ constexpr bool isBetween(unsigned int number, unsigned int first, unsigned int l
 /** A text in quotes, with the line of the element that states it unless that is the given one. */
 inline SArgument quoted(const QString& text, const CXmlElement& source, const CXmlElement& element)
 {
-    SArgument argument(QString{});
-    argument.shown = source.isNull() || source == element
-                         ? QStringLiteral("\"%1\"").arg(CRemarks::cut(text))
-                         : CRemarks::filled(CRemarks::tr("\"%1\" (line %2)"), {text, source.line()});
-    return argument;
+    return source.isNull() || source == element
+               ? CRemarks::filled({"\"%1\""}, {text})
+               : CRemarks::filled(CRemarks::say("\"%1\" (line %2)"), {text, SArgument::line(source.line())});
 }
 
 inline SArgument quoted(const SValueProperty& property, const SEntry& entry)

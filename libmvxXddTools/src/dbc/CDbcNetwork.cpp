@@ -306,7 +306,7 @@ void CDbcNetwork::addPdo(SNode& node, const CXddPdo& pdo)
 {
     const SPlace place = placeOf(pdo, node.description.dictionary());
     if (pdo.mCanId == 0) {
-        node.remarks.add(place, CRemarks::tr("%1 has no CAN-ID and is left out"), {pdo.name()});
+        node.remarks.add(place, CRemarks::say("%1 has no CAN-ID and is left out"), {pdo.name()});
         return;
     }
     const Key key(pdo.mIsExtended, pdo.mCanId);
@@ -315,7 +315,7 @@ void CDbcNetwork::addPdo(SNode& node, const CXddPdo& pdo)
     if (found != mMessages.end()) {
         if (pdo.mIsTransmit) {
             node.remarks.add(
-                place, CRemarks::tr("%1 is left out: CAN-ID %2 is that of %3"),
+                place, CRemarks::say("%1 is left out: CAN-ID %2 is that of %3"),
                 {pdo.name(), pdo.canIdText(), found->second.by});
             return;
         }
@@ -360,7 +360,7 @@ void CDbcNetwork::limitValues(SNode& node, const SPlace& place, QVector<SDbcSign
         mValuesLeft -= int(signal.values.size());
         if (mValuesLeft < 0 && !signal.values.isEmpty()) {
             signal.values.clear();
-            node.remarks.add(place, CRemarks::tr("the values of %1 are left out: there are too many"), {signal.name});
+            node.remarks.add(place, CRemarks::say("the values of %1 are left out: there are too many"), {signal.name});
         }
     }
 }
@@ -384,14 +384,14 @@ void CDbcNetwork::addReceiver(SEntered& entered, SNode& node, const CXddPdo& pdo
             same->receivers.removeDuplicates();
             if (!areReadAlike(*same, signal)) {
                 node.remarks.add(
-                    place, CRemarks::tr("%1 reads %2 of %3 otherwise, as %4"),
+                    place, CRemarks::say("%1 reads %2 of %3 otherwise, as %4"),
                     {pdo.name(), same->name, entered.by, signal.name});
             }
         } else if (!entered.isTransmit && (entered.usedBits & bitsOf(signal)) == 0) {
             addSignal(entered, signal);
         } else {
             node.remarks.add(
-                place, CRemarks::tr("%1 of %2 is left out: CAN-ID %3 is that of %4, where other values take its bits"),
+                place, CRemarks::say("%1 of %2 is left out: CAN-ID %3 is that of %4, where other values take its bits"),
                 {signal.name, pdo.name(), pdo.canIdText(), entered.by});
         }
     }
@@ -414,11 +414,12 @@ void CDbcNetwork::remarkPdos(SNode& node) const
             ++empty;
         } else if (!pdo.mIsEnabled && !mChoice.hasDisabled) {
             node.remarks.add(
-                placeOf(pdo, node.description.dictionary()), CRemarks::tr("%1 is disabled and left out"), {pdo.name()});
+                placeOf(pdo, node.description.dictionary()), CRemarks::say("%1 is disabled and left out"),
+                {pdo.name()});
         }
     }
     if (empty > 0) {
-        node.remarks.add(SPlace(), CRemarks::tr("PDOs that map nothing: %1"), {empty});
+        node.remarks.add(SPlace(), CRemarks::say("PDOs that map nothing: %1"), {empty});
     }
 }
 

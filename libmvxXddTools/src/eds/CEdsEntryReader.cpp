@@ -130,7 +130,7 @@ void CEdsEntryReader::leaveUnknown(const SEdsKey& key)
     if (!key.value.isEmpty() && !mUnknown.contains(name.toLower())) {
         mUnknown << name.toLower();
         mRemarks.left(
-            {key.line}, QLatin1String("eds-key"), CRemarks::tr("%1 is left out here and wherever else it stands"),
+            {key.line}, QLatin1String("eds-key"), CRemarks::say("%1 is left out here and wherever else it stands"),
             {name});
     }
 }
@@ -149,7 +149,7 @@ void CEdsEntryReader::readAccess(SEdsEntry& entry, const SPlace& place, const SE
     });
     if (known == ACCESS_WORDS.end()) {
         mRemarks.left(
-            at(place, *key), ACCESS_WORD, CRemarks::tr("AccessType \"%1\" is not one of: ro, wo, rw, rwr, rww, const"),
+            at(place, *key), ACCESS_WORD, CRemarks::say("AccessType \"%1\" is not one of: ro, wo, rw, rwr, rww, const"),
             {key->value.toString()});
         return;
     }
@@ -157,12 +157,12 @@ void CEdsEntryReader::readAccess(SEdsEntry& entry, const SPlace& place, const SE
     entry.mapping = isMapped ? known->mapping : VAL_OBJ_E_MAP_NO;
     if (!known->isStandard || word.size() != key->value.size()) {
         mRemarks.taken(
-            at(place, *key), ACCESS_WORD, CRemarks::tr("AccessType \"%1\" is taken as %2"),
+            at(place, *key), ACCESS_WORD, CRemarks::say("AccessType \"%1\" is taken as %2"),
             {key->value.toString(), QString(known->access)});
     } else if (!isMapped && known->mapping != VAL_OBJ_MAP_OPTINAL) {
         mRemarks.taken(
             at(place, *key), QLatin1String("eds-value"),
-            CRemarks::tr("AccessType %1 without PDOMapping is taken as rw"), {known->word});
+            CRemarks::say("AccessType %1 without PDOMapping is taken as rw"), {known->word});
     }
 }
 
@@ -180,11 +180,11 @@ std::optional<unsigned int> CEdsEntryReader::number(
     }
     if (!number.value) {
         mRemarks.left(
-            at(place, *key), EDS_NUMBER, CRemarks::tr("%1 \"%2\" is not a number and is left out"),
+            at(place, *key), EDS_NUMBER, CRemarks::say("%1 \"%2\" is not a number and is left out"),
             {name(*key), key->value.toString()});
     } else if (!number.isPlain) {
         mRemarks.taken(
-            at(place, *key), EDS_NUMBER, CRemarks::tr("%1 \"%2\" is taken as %3"),
+            at(place, *key), EDS_NUMBER, CRemarks::say("%1 \"%2\" is taken as %3"),
             {name(*key), key->value.toString(), *number.value});
     }
     return number.value;
@@ -198,12 +198,12 @@ QString CEdsEntryReader::value(const SPlace& place, const SEdsKey* key, unsigned
     const SEdsMeaning<QString> value = edsValueOf(key->value);
     if (!value.isPlain) {
         mRemarks.taken(
-            at(place, *key), EDS_NUMBER, CRemarks::tr("%1 \"%2\" is taken as %3"),
+            at(place, *key), EDS_NUMBER, CRemarks::say("%1 \"%2\" is taken as %3"),
             {name(*key), key->value.toString(), *value.value});
     }
     if (!CValue::read(*value.value, dataType)) {
         mRemarks.left(
-            at(place, *key), QLatin1String("eds-value"), CRemarks::tr("%1 \"%2\" is not a value of %3, left as it is"),
+            at(place, *key), QLatin1String("eds-value"), CRemarks::say("%1 \"%2\" is not a value of %3, left as it is"),
             {name(*key), key->value.toString(), dataTypeOf(dataType).name});
     }
     return *value.value;
@@ -218,12 +218,12 @@ QString CEdsEntryReader::text(const SPlace& place, const SEdsKey* key)
     QString allowed = allowedInXml(*text.value);
     if (!text.isPlain) {
         mRemarks.taken(
-            at(place, *key), QLatin1String("eds-text"), CRemarks::tr("the quotes around %1 are left out"),
+            at(place, *key), QLatin1String("eds-text"), CRemarks::say("the quotes around %1 are left out"),
             {name(*key)});
     }
     if (allowed != *text.value) {
         mRemarks.left(
-            at(place, *key), QLatin1String("eds-text"), CRemarks::tr("control characters in %1 are left out"),
+            at(place, *key), QLatin1String("eds-text"), CRemarks::say("control characters in %1 are left out"),
             {name(*key)});
     }
     return allowed;

@@ -36,9 +36,9 @@ bool CEdsFile::read(const QString& text, CRemarks& remarks, CXddRemark& failure)
 {
     mText = text;
     int line = 0;
-    const auto refuse = [&](const QString& sentence, std::size_t limit) {
+    const auto refuse = [&](const SWords& words, std::size_t limit) {
         failure.mLine = line;
-        failure.mText = CRemarks::filled(sentence, {quint64(limit)});
+        failure.mSentence = CRemarks::filled(words, {quint64(limit)});
         return false;
     };
     const QStringView all(mText);
@@ -47,14 +47,14 @@ bool CEdsFile::read(const QString& text, CRemarks& remarks, CXddRemark& failure)
         ++line;
         const auto* const end = std::find_if(begin, last, isLineEnd);
         if (end - begin > MAX_LINE) {
-            return refuse(CRemarks::tr("a line has more than %1 characters"), MAX_LINE);
+            return refuse(CRemarks::say("a line has more than %1 characters"), MAX_LINE);
         }
         readLine(QStringView(begin, end).trimmed(), line, remarks);
         if (mSections.size() > MAX_SECTIONS) {
-            return refuse(CRemarks::tr("the file has more than %1 sections"), MAX_SECTIONS);
+            return refuse(CRemarks::say("the file has more than %1 sections"), MAX_SECTIONS);
         }
         if (mCurrent >= 0 && mSections[std::size_t(mCurrent)].keys.size() > MAX_KEYS) {
-            return refuse(CRemarks::tr("a section has more than %1 keys"), MAX_KEYS);
+            return refuse(CRemarks::say("a section has more than %1 keys"), MAX_KEYS);
         }
         const bool isPair = last - end > 1 && end[0] == QLatin1Char('\r') && end[1] == QLatin1Char('\n');
         begin = end == last ? last : end + (isPair ? 2 : 1);
@@ -95,7 +95,7 @@ void CEdsFile::readLine(QStringView text, int line, CRemarks& remarks)
         addKey({text.left(equals).trimmed(), text.mid(equals + 1).trimmed(), line}, remarks);
     } else {
         remarks.left(
-            {line}, QLatin1String("eds-line"), CRemarks::tr("\"%1\" is neither a section, a key nor a comment"),
+            {line}, QLatin1String("eds-line"), CRemarks::say("\"%1\" is neither a section, a key nor a comment"),
             {text.toString()});
     }
 }
@@ -108,8 +108,8 @@ void CEdsFile::beginSection(QStringView name, int line, CRemarks& remarks)
     if (known != mByName.constEnd()) {
         mCurrent = *known;
         remarks.taken(
-            {line}, QLatin1String("section-twice"), CRemarks::tr("section [%1] duplicates line %2"),
-            {name.toString(), mSections[std::size_t(mCurrent)].line});
+            {line}, QLatin1String("section-twice"), CRemarks::say("section [%1] duplicates line %2"),
+            {name.toString(), SArgument::line(mSections[std::size_t(mCurrent)].line)});
         return;
     }
     mCurrent = int(mSections.size());
@@ -138,7 +138,7 @@ void CEdsFile::addKey(const SEdsKey& key, CRemarks& remarks)
     if (isKnown) {
         remarks.left(
             {key.line}, QLatin1String("key-twice"),
-            CRemarks::tr("key %1 is in its section already: \"%2\" is not taken"),
+            CRemarks::say("key %1 is in its section already: \"%2\" is not taken"),
             {key.name.toString(), key.value.toString()});
         return;
     }

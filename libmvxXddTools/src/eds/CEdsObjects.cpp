@@ -99,8 +99,8 @@ bool CEdsObjects::collect(const CEdsFile& file, CRemarks& remarks, CXddRemark& f
         }
         if (count > MAX_ENTRIES) {
             failure.mLine = section.line;
-            failure.mText =
-                CRemarks::filled(CRemarks::tr("the file has more than %1 objects and sub-objects"), {MAX_ENTRIES});
+            failure.mSentence =
+                CRemarks::filled(CRemarks::say("the file has more than %1 objects and sub-objects"), {MAX_ENTRIES});
             return false;
         }
     }
@@ -126,7 +126,7 @@ void CEdsObjects::addSubObject(unsigned int index, const SEdsSection& section, C
     if (!ok || subIndex > MAX_SUB_INDEX) {
         remarks.left(
             {section.line, 0, true, false, index, std::nullopt}, QLatin1String("sub-index-range"),
-            CRemarks::tr("sub-index \"%1\" is above FF and is left out"), {digits.toString()});
+            CRemarks::say("sub-index \"%1\" is above FF and is left out"), {digits.toString()});
         return;
     }
     QMap<unsigned int, const SEdsSection*>& subObjects = mObjects[index].subObjects;
@@ -137,5 +137,6 @@ void CEdsObjects::addSubObject(unsigned int index, const SEdsSection& section, C
     }
     remarks.left(
         {section.line, 0, true, true, index, subIndex}, QLatin1String("section-twice"),
-        CRemarks::tr("section [%1] duplicates line %2 and is left out"), {section.name.toString(), (*known)->line});
+        CRemarks::say("section [%1] duplicates line %2 and is left out"),
+        {section.name.toString(), SArgument::line((*known)->line)});
 }

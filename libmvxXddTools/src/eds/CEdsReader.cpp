@@ -108,24 +108,25 @@ bool CEdsReader::isDescription(CXddRemark& failure) const
         return true;
     }
     if (sections.empty()) {
-        failure.mText = CRemarks::tr("This is neither XML nor an EDS: it has no sections.");
+        failure.mSentence = CRemarks::filled(CRemarks::say("This is neither XML nor an EDS: it has no sections."));
         return false;
     }
     const QLatin1String device("Device");
     const QLatin1String topology("Topology");
     if (const SEdsSection* const other = mFile.find(device)) {
         failure.mLine = other->line;
-        failure.mText = CRemarks::filled(
-            CRemarks::tr("This is a description of another technology: EtherNet/IP and DeviceNet have a section [%1]."),
+        failure.mSentence = CRemarks::filled(
+            CRemarks::say(
+                "This is a description of another technology: EtherNet/IP and DeviceNet have a section [%1]."),
             {device});
     } else if (const SEdsSection* const list = mFile.find(topology)) {
         failure.mLine = list->line;
-        failure.mText = CRemarks::filled(
-            CRemarks::tr("This is a list of nodes, which has a section [%1], not a device."), {topology});
+        failure.mSentence = CRemarks::filled(
+            CRemarks::say("This is a list of nodes, which has a section [%1], not a device."), {topology});
     } else {
         failure.mLine = sections.front().line;
-        failure.mText = CRemarks::filled(
-            CRemarks::tr("This is another kind of INI file: it begins with [%1] and has no objects."),
+        failure.mSentence = CRemarks::filled(
+            CRemarks::say("This is another kind of INI file: it begins with [%1] and has no objects."),
             {sections.front().name.toString()});
     }
     return false;
@@ -149,7 +150,7 @@ void CEdsReader::leaveSections()
     }
     if (!left.isEmpty()) {
         mRemarks.left(
-            {line}, EDS_SECTION, CRemarks::tr("left out, an XDD has no place for them: %1"),
+            {line}, EDS_SECTION, CRemarks::say("left out, an XDD has no place for them: %1"),
             {left.join(QLatin1String(", "))});
     }
 }
@@ -163,7 +164,8 @@ void CEdsReader::leaveKeys(const SEdsSection& section, std::initializer_list<QLa
         const bool isBitRate = key.name.startsWith(BAUD_RATE, Qt::CaseInsensitive);
         if (!isKnown && !isBitRate && !key.value.isEmpty() && edsNumberOf(key.value).value != 0U) {
             mRemarks.left(
-                {key.line}, EDS_KEY, CRemarks::tr("%1 is left out, an XDD has no place for it"), {key.name.toString()});
+                {key.line}, EDS_KEY, CRemarks::say("%1 is left out, an XDD has no place for it"),
+                {key.name.toString()});
         }
     }
 }
@@ -215,10 +217,10 @@ void CEdsReader::remarkOn(const SEdsKey& key, bool isReadable, bool isPlain, QLa
     const SArgument name = SArgument::word(key.name.toString());
     if (!isReadable) {
         mRemarks.left(
-            {key.line}, BAD_DATE, CRemarks::tr("%1 \"%2\" is not %3 and is left out"),
+            {key.line}, BAD_DATE, CRemarks::say("%1 \"%2\" is not %3 and is left out"),
             {name, key.value.toString(), form});
     } else if (!isPlain) {
-        mRemarks.taken({key.line}, BAD_DATE, CRemarks::tr("%1 \"%2\" is not %3"), {name, key.value.toString(), form});
+        mRemarks.taken({key.line}, BAD_DATE, CRemarks::say("%1 \"%2\" is not %3"), {name, key.value.toString(), form});
     }
 }
 
@@ -312,7 +314,7 @@ void CEdsReader::writeObject(unsigned int index, const SEdsObject& object)
         entry.name = QStringLiteral("");
         entry.objectCode = CODE_RECORD;
         mRemarks.taken(
-            place, EDS_SECTION, CRemarks::tr("sub-objects without a section of their object: it is a RECORD"));
+            place, EDS_SECTION, CRemarks::say("sub-objects without a section of their object: it is a RECORD"));
     } else {
         entry = mEntries.read(place, *object.section);
     }
@@ -320,12 +322,12 @@ void CEdsReader::writeObject(unsigned int index, const SEdsObject& object)
     if (entry.objectCode == 0) {
         entry.objectCode = hasSubObjects ? CODE_RECORD : CODE_VAR;
         if (hasSubObjects) {
-            mRemarks.taken(place, QLatin1String("eds-number"), CRemarks::tr("ObjectType is missing: it is a RECORD"));
+            mRemarks.taken(place, QLatin1String("eds-number"), CRemarks::say("ObjectType is missing: it is a RECORD"));
         }
     }
     if (hasSubObjects && objectCodeOf(entry.objectCode).isOfSubObject) {
         mRemarks.taken(
-            place, EDS_SECTION, CRemarks::tr("the sub-objects of a %1 are kept"),
+            place, EDS_SECTION, CRemarks::say("the sub-objects of a %1 are kept"),
             {objectCodeOf(entry.objectCode).name});
     }
     if (object.compact > 0 && (entry.subNumber.isNull() || entry.subNumber == QLatin1String("0"))) {
@@ -419,7 +421,8 @@ void CEdsReader::writeDummyUsage()
             mXdd.element(TAG_DUMMY, key.line, QString(), ATTR_ENTRY, entry);
         } else if (isSet(&key)) {
             mRemarks.left(
-                {key.line}, EDS_KEY, CRemarks::tr("%1 is left out, an XDD has no place for it"), {key.name.toString()});
+                {key.line}, EDS_KEY, CRemarks::say("%1 is left out, an XDD has no place for it"),
+                {key.name.toString()});
         }
     }
     mXdd.end();
@@ -437,7 +440,7 @@ void CEdsReader::writeBitRates()
             supported.push_back(&key);
         } else {
             mRemarks.left(
-                {key.line}, EDS_KEY, CRemarks::tr("%1 is left out, it is not a bit rate of CANopen"),
+                {key.line}, EDS_KEY, CRemarks::say("%1 is left out, it is not a bit rate of CANopen"),
                 {key.name.toString()});
         }
     }

@@ -104,11 +104,11 @@ void CEdsWriter::chooseObjects()
         if (entry.isArrayOrRecord()) {
             chooseSubObjects(chosen);
             if (chosen.subObjects.isEmpty()) {
-                lose(entry, LEFT_OUT, CRemarks::tr("left out: it has no sub-objects"));
+                lose(entry, LEFT_OUT, CRemarks::say("left out: it has no sub-objects"));
                 continue;
             }
         } else if (entry.subObjects > 0) {
-            lose(entry, LEFT_OUT, CRemarks::tr("the sub-objects of a variable are left out"));
+            lose(entry, LEFT_OUT, CRemarks::say("the sub-objects of a variable are left out"));
         }
         mObjects.insert(*entry.index, chosen);
     }
@@ -118,9 +118,9 @@ void CEdsWriter::chooseSubObjects(SObject& object)
 {
     for (const SEntry* const entry : mDescription.dictionary().subObjects(*object.entry)) {
         if (!entry->subIndex || *entry->subIndex >= STRUCTURE_SUB_INDEX) {
-            lose(*entry, LEFT_OUT, CRemarks::tr("left out: an EDS cannot have this sub-index"));
+            lose(*entry, LEFT_OUT, CRemarks::say("left out: an EDS cannot have this sub-index"));
         } else if (object.subObjects.contains(*entry->subIndex)) {
-            lose(*entry, LEFT_OUT, CRemarks::tr("left out: it is there already"));
+            lose(*entry, LEFT_OUT, CRemarks::say("left out: it is there already"));
         } else {
             object.subObjects.insert(*entry->subIndex, entry);
         }
@@ -130,13 +130,13 @@ void CEdsWriter::chooseSubObjects(SObject& object)
 bool CEdsWriter::canSay(const SEntry& object)
 {
     if (!object.index || *object.index < 0x1000 || *object.index > 0xFFFF) {
-        lose(object, LEFT_OUT, CRemarks::tr("left out: an EDS cannot have this index"));
+        lose(object, LEFT_OUT, CRemarks::say("left out: an EDS cannot have this index"));
     } else if (!objectCodeOf(object.objectCode.value_or(0)).isInEds) {
         lose(
-            object, LEFT_OUT, CRemarks::tr("left out: an EDS cannot have the object code %1"),
+            object, LEFT_OUT, CRemarks::say("left out: an EDS cannot have the object code %1"),
             {object.element.attribute(ATTR_OBJECT_TYPE)});
     } else if (mObjects.contains(*object.index)) {
-        lose(object, LEFT_OUT, CRemarks::tr("left out: it is there already"));
+        lose(object, LEFT_OUT, CRemarks::say("left out: it is there already"));
     } else {
         return true;
     }
@@ -215,7 +215,8 @@ void CEdsWriter::writeBitRates()
                 supported << known;
             } else {
                 lose(
-                    rate, QLatin1String("bit-rate"), CRemarks::tr("an EDS has no key for the bit rate \"%1\""), {text});
+                    rate, QLatin1String("bit-rate"), CRemarks::say("an EDS has no key for the bit rate \"%1\""),
+                    {text});
             }
         }
     }
@@ -258,7 +259,7 @@ void CEdsWriter::writeCommissioning()
             if (mDescription.commissioning().mNodeId != 0) {
                 lose(
                     element, QLatin1String("configured"),
-                    CRemarks::tr("the commissioning is left out, it belongs into a DCF"));
+                    CRemarks::say("the commissioning is left out, it belongs into a DCF"));
             }
         }
         return;
@@ -336,7 +337,7 @@ void CEdsWriter::writeComposed(const SObject& object)
     writeFlags(entry);
     writeConfigured(entry, 0);
     if (entry.defaultValue.isGiven() || entry.lowLimit.isGiven() || entry.highLimit.isGiven()) {
-        lose(entry, QLatin1String("composed"), CRemarks::tr("the values of an array or record itself are left out"));
+        lose(entry, QLatin1String("composed"), CRemarks::say("the values of an array or record itself are left out"));
     }
 }
 
@@ -352,7 +353,7 @@ void CEdsWriter::writeVariable(const SEntry& entry)
     if (!isBlock) {
         writeMapping(entry);
     } else if (isMappable(entry.mapping) || entry.lowLimit.isGiven() || entry.highLimit.isGiven()) {
-        lose(entry, QLatin1String("domain"), CRemarks::tr("mapping and limits of a DOMAIN are left out"));
+        lose(entry, QLatin1String("domain"), CRemarks::say("mapping and limits of a DOMAIN are left out"));
     }
     writeValue(entry, DEFAULT_VALUE, entry.defaultValue.text, type);
     if (!isBlock) {
@@ -371,7 +372,7 @@ void CEdsWriter::writeConfigured(const SEntry& entry, unsigned int type)
     } else if (entry.actualValue.isGiven() || !denotation.isEmpty()) {
         lose(
             entry, QLatin1String("configured"),
-            CRemarks::tr("actual value and denotation are left out, they belong into a DCF"));
+            CRemarks::say("actual value and denotation are left out, they belong into a DCF"));
     }
 }
 
@@ -386,7 +387,7 @@ void CEdsWriter::writeDataType(const SEntry& entry, unsigned int type)
     mSections.key(DATA_TYPE, hexadecimalText(type, 4));
     if (entry.dataType.value == 0 && entry.objectCode != CODE_DOMAIN) {
         lose(
-            entry, QLatin1String("data-type"), CRemarks::tr("it has no data type and is written as %1"),
+            entry, QLatin1String("data-type"), CRemarks::say("it has no data type and is written as %1"),
             {CCanOpenNames::dataType(type)});
     }
 }
@@ -398,10 +399,10 @@ void CEdsWriter::writeAccess(const SEntry& entry)
     QLatin1String text = accessText(access);
     if (!isReadable(access) && !isWritable(access)) {
         text = direction == EPdoDirection::Receive ? VAL_OBJ_ACCESS_WO : VAL_OBJ_ACCESS_RO;
-        lose(entry, QLatin1String("access"), CRemarks::tr("it has no access and is written as %1"), {text});
+        lose(entry, QLatin1String("access"), CRemarks::say("it has no access and is written as %1"), {text});
     } else if (direction && forbidsDirection(access, *direction)) {
         lose(
-            entry, QLatin1String("direction"), CRemarks::tr("an EDS cannot say %1 together with PDOmapping %2"),
+            entry, QLatin1String("direction"), CRemarks::say("an EDS cannot say %1 together with PDOmapping %2"),
             {text, mappingText(entry.mapping)});
     } else if (direction && access == EAccess::ReadWrite && entry.objectCode != CODE_DOMAIN) {
         text = direction == EPdoDirection::Receive ? READ_WRITE_RECEIVE : READ_WRITE_TRANSMIT;
@@ -414,7 +415,7 @@ void CEdsWriter::writeMapping(const SEntry& entry)
     mSections.key(PDO_MAPPING, flagText(isMappable(entry.mapping)));
     if (entry.mapping == EMapping::Unknown) {
         lose(
-            entry, QLatin1String("mapping"), CRemarks::tr("PDOmapping \"%1\" is unknown and is written as 0"),
+            entry, QLatin1String("mapping"), CRemarks::say("PDOmapping \"%1\" is unknown and is written as 0"),
             {entry.element.attribute(ATTR_PDO_MAPPING)});
     }
 }
@@ -427,7 +428,7 @@ void CEdsWriter::writeValue(const SEntry& entry, QLatin1String key, const QStrin
     const SEdsValue value = edsValue(text, type);
     if (value.text.isEmpty()) {
         lose(
-            entry, QLatin1String("value"), CRemarks::tr("%1 \"%2\" is not a value of %3 and is left out"),
+            entry, QLatin1String("value"), CRemarks::say("%1 \"%2\" is not a value of %3 and is left out"),
             {key, text, CCanOpenNames::dataType(type)});
     } else if (value.isText) {
         loseText(entry, mSections.text(key, value.text));
@@ -435,7 +436,7 @@ void CEdsWriter::writeValue(const SEntry& entry, QLatin1String key, const QStrin
         mSections.key(key, value.text);
     }
     if (value.lostSuffix) {
-        lose(entry, QLatin1String("suffix"), CRemarks::tr("%1 \"%2\" is written without its suffix"), {key, text});
+        lose(entry, QLatin1String("suffix"), CRemarks::say("%1 \"%2\" is written without its suffix"), {key, text});
     }
 }
 
@@ -452,7 +453,7 @@ void CEdsWriter::writeLimits(const SEntry& entry, unsigned int type)
     if (low && high && high->isBelow(*low)) {
         lose(
             entry, QLatin1String("limits"),
-            CRemarks::tr("limits are left out because the low one is above the high one"));
+            CRemarks::say("limits are left out because the low one is above the high one"));
         return;
     }
     writeValue(entry, LOW_LIMIT, entry.lowLimit.text, type);
@@ -472,14 +473,14 @@ void CEdsWriter::writeText(QLatin1String key, const CXmlElement& element, const 
     }
 }
 
-void CEdsWriter::lose(const SPlace& place, QLatin1String kind, const QString& sentence, CRemarks::Arguments arguments)
+void CEdsWriter::lose(const SPlace& place, QLatin1String kind, const SWords& words, CRemarks::Arguments arguments)
 {
     CXddRemark cause;
     cause.mKind = CXddRemark::KIND_LOSS;
     cause.mSeverity = CXddRemark::SEVERITY_NOTE;
     cause.mRule = kind;
     mLosses.setCause(cause);
-    mLosses.add(place, sentence, arguments);
+    mLosses.add(place, words, arguments);
     if (place.isEntry) {
         mIncomplete << place.entry() + QLatin1Char('@') + QString::number(place.line);
     }
@@ -488,17 +489,19 @@ void CEdsWriter::lose(const SPlace& place, QLatin1String kind, const QString& se
 void CEdsWriter::loseText(const SPlace& place, const SEdsText& text)
 {
     if (text.isTrimmed) {
-        lose(place, QLatin1String("spaces"), CRemarks::tr("spaces around a text or control characters in it are lost"));
+        lose(
+            place, QLatin1String("spaces"), CRemarks::say("spaces around a text or control characters in it are lost"));
     }
     if (text.isReplaced) {
-        lose(place, QLatin1String("characters"), CRemarks::tr("\";\", \"#\" or a leading quote of a text is replaced"));
+        lose(
+            place, QLatin1String("characters"), CRemarks::say("\";\", \"#\" or a leading quote of a text is replaced"));
     }
     if (text.isCut) {
-        lose(place, QLatin1String("length"), CRemarks::tr("a text is cut, a line has 255 characters"));
+        lose(place, QLatin1String("length"), CRemarks::say("a text is cut, a line has 255 characters"));
     }
     if (text.isUnicode) {
         lose(
             place, QLatin1String("unicode"),
-            CRemarks::tr("a text has characters outside ASCII and is written as UTF-8"));
+            CRemarks::say("a text has characters outside ASCII and is written as UTF-8"));
     }
 }

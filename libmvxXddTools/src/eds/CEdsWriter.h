@@ -55,7 +55,7 @@ private:
     QString identityNumber(QLatin1String name, unsigned int subIndex) const;
     std::optional<unsigned int> identityDefault(unsigned int subIndex) const;
 
-    void lose(const SPlace& place, QLatin1String kind, const QString& sentence, CRemarks::Arguments arguments = {});
+    void lose(const SPlace& place, QLatin1String kind, const SWords& words, CRemarks::Arguments arguments = {});
     void loseText(const SPlace& place, const SEdsText& text);
 
     const CDescription& mDescription;

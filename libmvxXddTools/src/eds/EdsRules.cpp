@@ -46,13 +46,13 @@ void findInList(
         const SPlace place = placeOf(key.line, *index);
         const auto wanted = std::size_t(CCanOpenNames::objectKind(*index));
         if (listed.contains(*index)) {
-            remarks.found(place, QLatin1String("object-list"), CRemarks::tr("it is listed twice"));
+            remarks.found(place, QLatin1String("object-list"), CRemarks::say("it is listed twice"));
         } else if (!objects.contains(*index) || objects[*index].section == nullptr) {
             remarks.found(
-                place, QLatin1String("listed-without-section"), CRemarks::tr("it is listed, but has no section"));
+                place, QLatin1String("listed-without-section"), CRemarks::say("it is listed, but has no section"));
         } else if (wanted != kind) {
             remarks.found(
-                place, QLatin1String("wrong-list"), CRemarks::tr("it is listed in [%1], but belongs into [%2]"),
+                place, QLatin1String("wrong-list"), CRemarks::say("it is listed in [%1], but belongs into [%2]"),
                 {LISTS.at(kind), LISTS.at(wanted)});
         }
         listed << *index;
@@ -61,7 +61,7 @@ void findInList(
     if (stated != nullptr && edsNumberOf(stated->value).value != unsigned(count)) {
         remarks.found(
             {stated->line}, QLatin1String("object-list"),
-            CRemarks::tr("%1 is %2, but the number of listed objects is %3"),
+            CRemarks::say("%1 is %2, but the number of listed objects is %3"),
             {SUPPORTED_OBJECTS, stated->value.toString(), count});
     }
 }
@@ -77,14 +77,14 @@ void findInLists(const CEdsFile& file, const Objects& objects, CRemarks& remarks
     if (!hasList) {
         remarks.found(
             {file.sections().front().line}, QLatin1String("object-list"),
-            CRemarks::tr("there are no lists of objects"));
+            CRemarks::say("there are no lists of objects"));
         return;
     }
     for (auto object = objects.cbegin(); object != objects.cend(); ++object) {
         if (object->section != nullptr && object.key() >= 0x1000 && !listed.contains(object.key())) {
             remarks.found(
                 placeOf(object->section->line, object.key()), QLatin1String("section-not-listed"),
-                CRemarks::tr("it is in none of the lists of objects"));
+                CRemarks::say("it is in none of the lists of objects"));
         }
     }
 }
@@ -93,7 +93,7 @@ void findName(SPlace place, const SEdsSection& section, CRemarks& remarks)
 {
     if (section.key(PARAMETER_NAME) == nullptr) {
         place.line = section.line;
-        remarks.found(place, QLatin1String("missing-item"), CRemarks::tr("%1 is missing"), {PARAMETER_NAME});
+        remarks.found(place, QLatin1String("missing-item"), CRemarks::say("%1 is missing"), {PARAMETER_NAME});
     }
 }
 
@@ -113,16 +113,16 @@ void findInObject(unsigned int index, const SEdsObject& object, CRemarks& remark
     const SEdsKey* const type = object.section->given(OBJECT_TYPE);
     const bool isVariable = type != nullptr && edsNumberOf(type->value).value == CODE_VAR;
     if (!object.subObjects.isEmpty() && !isVariable && number == nullptr && object.compact == 0) {
-        remarks.found(place, QLatin1String("sub-number-missing"), CRemarks::tr("%1 is missing"), {SUB_NUMBER});
+        remarks.found(place, QLatin1String("sub-number-missing"), CRemarks::say("%1 is missing"), {SUB_NUMBER});
     }
     if (object.compact > 0 && number != nullptr && edsNumberOf(number->value).value != 0U) {
         remarks.found(
-            place, QLatin1String("compact-conflict"), CRemarks::tr("%1 and %2 contradict each other"),
+            place, QLatin1String("compact-conflict"), CRemarks::say("%1 and %2 contradict each other"),
             {COMPACT_SUB_OBJ, SUB_NUMBER});
     }
     if (object.compact > 0 && object.section->given(DATA_TYPE) == nullptr) {
         remarks.found(
-            place, QLatin1String("compact-conflict"), CRemarks::tr("%1 without %2"), {COMPACT_SUB_OBJ, DATA_TYPE});
+            place, QLatin1String("compact-conflict"), CRemarks::say("%1 without %2"), {COMPACT_SUB_OBJ, DATA_TYPE});
     }
 }
 
@@ -137,7 +137,7 @@ void findInDummyUsage(const SEdsSection& usage, CRemarks& remarks)
     if (count < MAX_DUMMY) {
         remarks.found(
             {usage.line}, QLatin1String("dummy-usage"),
-            CRemarks::tr("[%1] has %2 of the seven keys Dummy0001 to Dummy0007"), {DUMMY_USAGE, count});
+            CRemarks::say("[%1] has %2 of the seven keys Dummy0001 to Dummy0007"), {DUMMY_USAGE, count});
     }
 }
 
@@ -149,7 +149,7 @@ void findInComments(const SEdsSection& comments, CRemarks& remarks)
     if (lines == nullptr || lines->name != LINES || edsNumberOf(lines->value).value != unsigned(count)) {
         remarks.found(
             {lines == nullptr ? comments.line : lines->line}, QLatin1String("comment-lines"),
-            CRemarks::tr("%1 is not the number of comment lines, which is %2"), {LINES, count});
+            CRemarks::say("%1 is not the number of comment lines, which is %2"), {LINES, count});
     }
 }
 
@@ -164,14 +164,14 @@ void findInRevision(const CEdsFile& file, const Objects& objects, CRemarks& rema
     const unsigned int number = *edsNumberOf(stated->value).value;
     if (value == nullptr && number != 0) {
         remarks.left(
-            {stated->line}, QLatin1String("eds-key"), CRemarks::tr("%1 is left out, %2 does not have it"),
+            {stated->line}, QLatin1String("eds-key"), CRemarks::say("%1 is left out, %2 does not have it"),
             {REVISION_NUMBER, CCanOpenNames::entry(0x1018, 3)});
     } else if (value != nullptr && edsNumberOf(value->value).value.value_or(number) != number) {
         remarks.found(
             {stated->line}, QLatin1String("revision-number"),
-            CRemarks::tr("%1 %2 is not the default %3 of %4 (line %5)"),
+            CRemarks::say("%1 %2 is not the default %3 of %4 (line %5)"),
             {REVISION_NUMBER, stated->value.toString(), value->value.toString(), CCanOpenNames::entry(0x1018, 3),
-             value->line});
+             SArgument::line(value->line)});
     }
 }
 
@@ -188,7 +188,7 @@ void findInCommissioning(const CEdsFile& file, CRemarks& remarks)
     const SEdsSection* const other = file.find(COMMISSIONING_TWO_M);
     const SEdsSection* const section = file.find(COMMISSIONING) == nullptr ? other : file.find(COMMISSIONING);
     if (other != nullptr) {
-        remarks.found({other->line}, rule, CRemarks::tr("the standard writes [%1] with one m"), {COMMISSIONING});
+        remarks.found({other->line}, rule, CRemarks::say("the standard writes [%1] with one m"), {COMMISSIONING});
     }
     if (section == nullptr) {
         return;
@@ -197,14 +197,14 @@ void findInCommissioning(const CEdsFile& file, CRemarks& remarks)
     const unsigned int number = nodeId == nullptr ? MIN_NODE_ID : edsNumberOf(nodeId->value).value.value_or(0);
     if (number < MIN_NODE_ID || number > MAX_NODE_ID) {
         remarks.found(
-            {nodeId->line}, rule, CRemarks::tr("%1 \"%2\" is not a node-ID from 1 to 127"),
+            {nodeId->line}, rule, CRemarks::say("%1 \"%2\" is not a node-ID from 1 to 127"),
             {NODE_ID_KEY, nodeId->value.toString()});
     }
     const SEdsKey* const rate = section->given(NODE_BAUD_RATE);
     const unsigned int kbits = rate == nullptr ? 0 : edsNumberOf(rate->value).value.value_or(0);
     if (kbits != 0 && !isSupported(file.section(DEVICE_INFO), kbits)) {
         remarks.found(
-            {rate->line}, rule, CRemarks::tr("%1 %2 is not one of the supported bit rates"),
+            {rate->line}, rule, CRemarks::say("%1 %2 is not one of the supported bit rates"),
             {NODE_BAUD_RATE, rate->value.toString()});
     }
 }
@@ -215,7 +215,7 @@ void findInEds(const CEdsFile& file, const QMap<unsigned int, SEdsObject>& objec
     for (const QLatin1String name : {FILE_INFO, DEVICE_INFO}) {
         if (file.find(name) == nullptr) {
             remarks.found(
-                {file.sections().front().line}, QLatin1String("missing-item"), CRemarks::tr("section [%1] is missing"),
+                {file.sections().front().line}, QLatin1String("missing-item"), CRemarks::say("section [%1] is missing"),
                 {name});
         }
     }

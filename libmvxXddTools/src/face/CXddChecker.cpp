@@ -89,7 +89,7 @@ QList<CXddRemark> withoutHidden(const QList<CXddRemark>& findings, const std::ve
             cause.mRule = QStringLiteral("unused-suppression");
             shown.setCause(cause);
             shown.add(
-                SPlace{suppression.line}, CRemarks::tr("the comment hides nothing of the rule %1 in line %2"),
+                SPlace{suppression.line}, CRemarks::say("the comment hides nothing of the rule %1 in line %2"),
                 {suppression.rule, suppression.hidden});
         }
     }
@@ -105,8 +105,8 @@ bool hasTypedBody(const CDescription& description, CXddRemark& failure)
     failure.mRule = QStringLiteral("not-a-description");
     failure.mLine = description.root().line();
     failure.mColumn = description.root().place().column;
-    failure.mText =
-        CRemarks::filled(CRemarks::tr("No ProfileBody is of the type %1 or %2."), {VAL_DEVICE_BODY, VAL_NETWORK_BODY});
+    failure.mSentence =
+        CRemarks::filled(CRemarks::say("No ProfileBody is of the type %1 or %2."), {VAL_DEVICE_BODY, VAL_NETWORK_BODY});
     return false;
 }
 } // namespace

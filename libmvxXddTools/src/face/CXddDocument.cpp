@@ -32,12 +32,12 @@ bool hasDate(const CDescription& description, EProfile kind)
 }
 
 // Why a text cannot be one of sections, whatever it says; nothing for one that can.
-QString foreignText(const QString& text)
+CXddSentence foreignText(const QString& text)
 {
     if (text.trimmed().isEmpty()) {
-        return CRemarks::tr("The file is empty.");
+        return CRemarks::filled(CRemarks::say("The file is empty."));
     }
-    return text.contains(QChar(0)) ? CRemarks::tr("This is a binary file.") : QString();
+    return text.contains(QChar(0)) ? CRemarks::filled(CRemarks::say("This is a binary file.")) : CXddSentence();
 }
 
 // Reads an XDD. Returns null with the failure.
@@ -46,7 +46,7 @@ std::shared_ptr<SOpened> openXdd(const QByteArray& bytes, CXddRemark& failure)
     CEncodedText encoded;
     CXmlTree tree;
     failure.mRule = QStringLiteral("not-well-formed");
-    if (!encoded.decode(bytes, failure.mText) || !tree.read(encoded.text(), failure)) {
+    if (!encoded.decode(bytes, failure.mSentence) || !tree.read(encoded.text(), failure)) {
         return nullptr;
     }
     auto opened = std::make_shared<SOpened>(std::move(encoded), std::move(tree), EForm::Xdd);
@@ -63,13 +63,13 @@ std::shared_ptr<SOpened> openEds(const QByteArray& bytes, CXddRemark& failure)
     CRemarks remarks;
     const QByteArray encoding = encoded.decodePlain(bytes);
     failure.mRule = QStringLiteral("not-a-description");
-    failure.mText = foreignText(encoded.text());
-    if (!failure.mText.isEmpty()) {
+    failure.mSentence = foreignText(encoded.text());
+    if (!failure.mSentence.isEmpty()) {
         return nullptr;
     }
     if (!encoding.isEmpty()) {
         remarks.taken(
-            {1}, QLatin1String("eds-encoding"), CRemarks::tr("the text is neither ASCII nor UTF-8 and is taken as %1"),
+            {1}, QLatin1String("eds-encoding"), CRemarks::say("the text is neither ASCII nor UTF-8 and is taken as %1"),
             {QString::fromLatin1(encoding)});
     }
     CEdsReader reader(remarks);
@@ -121,7 +121,7 @@ CXddDocument CXddDocument::open(QIODevice& device, const QString& name)
     }
     CXddDocument document;
     document.mName = name;
-    document.mFailure.mText = device.errorString();
+    document.mFailure.mSentence = CXddSentence(device.errorString());
     return document;
 }
 
@@ -131,7 +131,7 @@ CXddDocument CXddDocument::openFile(const QString& fileName)
     file.open(QIODevice::ReadOnly);
     CXddDocument document = open(file, fileName);
     if (!file.isOpen() && QFileInfo(fileName).isDir()) {
-        document.mFailure.mText = CRemarks::tr("This is a folder.");
+        document.mFailure.mSentence = CRemarks::filled(CRemarks::say("This is a folder."));
     }
     return document;
 }

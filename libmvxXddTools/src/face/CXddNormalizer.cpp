@@ -51,7 +51,8 @@ bool loadBytes(const QByteArray& bytes, const QString& name, ICIso15745& reader,
 {
     const CMemoryFile file(bytes);
     if (file.name().isEmpty()) {
-        errorText = CRemarks::filled(CRemarks::tr("There is no memory for a copy of %1: %2"), {name, file.errorText()});
+        errorText =
+            CRemarks::filled(CRemarks::say("There is no memory for a copy of %1: %2"), {name, file.errorText()}).text();
         return false;
     }
     const bool loaded = reader.load(file.name(), errorText);
@@ -96,7 +97,10 @@ bool CXddNormalizer::load(
     const CXddCopy copy = copyOf(document, CXmlEdits::ELayout::InLine);
     remarks = copy.mRemarks;
     failure.mLine = openedOf(document).tree.root().line();
-    return loadBytes(copy.mText, document.name(), reader, failure.mText);
+    QString errorText;
+    const bool isLoaded = loadBytes(copy.mText, document.name(), reader, errorText);
+    failure.mSentence = CXddSentence(errorText);
+    return isLoaded;
 }
 
 bool CXddNormalizer::loadAsItIs(const CXddDocument& document, ICIso15745& reader, QString& errorText)

@@ -311,10 +311,7 @@ void CDictionaryTables::writeFindings(unsigned int index, std::optional<unsigned
         const QString severity = CXddRemark::severityAsStr(finding->mSeverity);
         mHtml.open("p", {{"class", severity.left(1)}}).element("code", finding->mRule);
         if (mFindingsOfRule.value(finding->mRule) <= MAX_TOLD) {
-            const QString text = finding->mText.startsWith(address + QLatin1String(": "))
-                                     ? finding->mText.mid(address.size() + 2)
-                                     : finding->mText;
-            mHtml.text(QLatin1Char(' ') + text);
+            mHtml.text(QLatin1Char(' ') + finding->mSentence.text());
         }
         mHtml.close();
     }

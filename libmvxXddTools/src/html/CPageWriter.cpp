@@ -310,15 +310,12 @@ void CPageWriter::writeGroup(const QList<CXddRemark>& group)
             break;
         }
         const CXddRemark& finding = group[i];
-        mFindingsLeft -= FINDING_MARKUP + finding.mText.size();
-        const QString entry = finding.entry();
         const bool hasRow = finding.mIndex && mPage.reader.networkProfile().mObjects.contains(*finding.mIndex);
         mHtml.open("li");
-        // The sentence begins with the entry, which leads there.
-        QString text = finding.mText;
-        if (hasRow && !entry.isEmpty() && text.startsWith(entry)) {
-            mHtml.open("code").link(rowId(*finding.mIndex, finding.mSubIndex), entry).close();
-            text.remove(0, entry.size());
+        const QString text = hasRow ? QLatin1String(": ") + finding.mSentence.text() : finding.text();
+        mFindingsLeft -= FINDING_MARKUP + text.size();
+        if (hasRow) {
+            mHtml.open("code").link(rowId(*finding.mIndex, finding.mSubIndex), finding.entry()).close();
         }
         mHtml.text(text + QLatin1Char(' '));
         if (finding.mLine > 0) {

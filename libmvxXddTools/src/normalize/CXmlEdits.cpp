@@ -31,7 +31,7 @@ void CXmlEdits::supply(const CXmlElement& element, QLatin1String attribute, cons
 {
     setAttribute(element, attribute, value);
     mRemarks.add(
-        element, CRemarks::tr("%1=\"%2\" of <%3> supplied"), {attribute, value, SArgument::word(element.name())});
+        element, CRemarks::say("%1=\"%2\" of <%3> supplied"), {attribute, value, SArgument::word(element.name())});
 }
 
 void CXmlEdits::supply(const SEdited& edited, const std::vector<Attribute>& attributes)
@@ -42,14 +42,14 @@ void CXmlEdits::supply(const SEdited& edited, const std::vector<Attribute>& attr
         names << attribute.first;
     }
     if (!names.isEmpty()) {
-        mRemarks.add(edited.place, CRemarks::tr("%1 supplied"), {SArgument::word(names.join(QLatin1String(", ")))});
+        mRemarks.add(edited.place, CRemarks::say("%1 supplied"), {SArgument::word(names.join(QLatin1String(", ")))});
     }
 }
 
 void CXmlEdits::supplyText(const CXmlElement& element, const QString& text)
 {
     replace(element.content(), text);
-    mRemarks.add(element, CRemarks::tr("%1 supplied"), {SArgument::word(element.name())});
+    mRemarks.add(element, CRemarks::say("%1 supplied"), {SArgument::word(element.name())});
 }
 
 // Indented as the surroundings are.
@@ -69,7 +69,7 @@ void CXmlEdits::supplyChildren(
         const QString childXml = xml(child, prefix, lineStart, onLines ? unit : QString());
         text += before.isNull() ? lineStart + childXml : childXml + lineStart;
         mRemarks.add(
-            (before.isNull() ? parent : before).place(), CRemarks::tr("<%1> supplied"), {SArgument::word(child.name)});
+            (before.isNull() ? parent : before).place(), CRemarks::say("<%1> supplied"), {SArgument::word(child.name)});
     }
     const QString parentLine = onLines ? mNewline + parentIndent : QString();
     if (!before.isNull()) {
@@ -107,7 +107,7 @@ void CXmlEdits::rewrite(const SEdited& edited, QLatin1String attribute, const QS
 {
     setAttribute(edited.element, attribute, value);
     mRemarks.add(
-        edited.place, CRemarks::tr("%1 \"%2\" written as \"%3\""),
+        edited.place, CRemarks::say("%1 \"%2\" written as \"%3\""),
         {attribute, edited.element.attribute(attribute), value});
 }
 
@@ -115,20 +115,20 @@ void CXmlEdits::rewriteText(const CXmlElement& element, const QString& text)
 {
     replace(element.content(), text);
     mRemarks.add(
-        element, CRemarks::tr("%1 \"%2\" written as \"%3\""), {SArgument::word(element.name()), element.text(), text});
+        element, CRemarks::say("%1 \"%2\" written as \"%3\""), {SArgument::word(element.name()), element.text(), text});
 }
 
 void CXmlEdits::turnIntoComment(const CXmlElement& element)
 {
     comment(element);
-    mRemarks.add(element, CRemarks::tr("%1 turned into a comment"), {SArgument::word(element.name())});
+    mRemarks.add(element, CRemarks::say("%1 turned into a comment"), {SArgument::word(element.name())});
 }
 
 void CXmlEdits::leave(const SEdited& edited, QLatin1String attribute)
 {
     mLeft << edited.element.valueRange(attribute).begin;
     remarkLeft(
-        edited, CRemarks::tr("it is unknown or ambiguous"), CRemarks::tr("%1 \"%2\" left as it is"),
+        edited, CRemarks::say("it is unknown or ambiguous"), CRemarks::say("%1 \"%2\" left as it is"),
         {attribute, edited.element.attribute(attribute)});
 }
 
@@ -137,10 +137,10 @@ void CXmlEdits::onlyRecord()
     mIsOnlyRecorded = true;
 }
 
-void CXmlEdits::takeOut(const SEdited& edited, const QString& sentence, CRemarks::Arguments arguments)
+void CXmlEdits::takeOut(const SEdited& edited, const SWords& words, CRemarks::Arguments arguments)
 {
     comment(edited.element);
-    remarkLeft(edited, unreadableReason(), sentence, arguments);
+    remarkLeft(edited, unreadableReason(), words, arguments);
 }
 
 void CXmlEdits::takeOutUnknown(const SEdited& edited, QLatin1String attribute)
@@ -161,7 +161,7 @@ void CXmlEdits::remarkUnknown(const SEdited& edited, QLatin1String attribute)
     if (!mLeft.contains(edited.element.valueRange(attribute).begin)) {
         const bool isThere = edited.element.has(attribute);
         remarkLeft(
-            edited, unreadableReason(), isThere ? CRemarks::tr("%1 is \"%2\"") : CRemarks::tr("%1 is missing"),
+            edited, unreadableReason(), isThere ? CRemarks::say("%1 is \"%2\"") : CRemarks::say("%1 is missing"),
             {attribute, edited.element.attribute(attribute)});
     }
 }
@@ -186,20 +186,20 @@ QString CXmlEdits::result() const
     return text + mTree.raw({position, int(mTree.text().size())});
 }
 
-QString CXmlEdits::unreadableReason() const
+SWords CXmlEdits::unreadableReason() const
 {
-    return mIsOnlyRecorded ? CRemarks::tr("left as it is, so the copy does not load") : CRemarks::tr("left out");
+    return mIsOnlyRecorded ? CRemarks::say("left as it is, so the copy does not load") : CRemarks::say("left out");
 }
 
 void CXmlEdits::remarkLeft(
-    const SEdited& edited, const QString& reason, const QString& sentence, CRemarks::Arguments arguments)
+    const SEdited& edited, const SWords& reason, const SWords& words, CRemarks::Arguments arguments)
 {
     const CXddRemark cause = mRemarks.cause();
     CXddRemark left = cause;
     left.mKind = CXddRemark::KIND_LEFT;
-    left.mReason = reason;
+    left.mReason = CRemarks::filled(reason);
     mRemarks.setCause(left);
-    mRemarks.add(edited.place, sentence, arguments);
+    mRemarks.add(edited.place, words, arguments);
     mRemarks.setCause(cause);
 }
 

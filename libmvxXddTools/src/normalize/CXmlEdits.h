@@ -55,7 +55,7 @@ public:
     template <typename Rule> void setCause(const Rule& rule)
     {
         CXddRemark cause = rule.cause(CXddRemark::KIND_CHANGE);
-        cause.mReason = CRemarks::tr(rule.help);
+        cause.mReason = CRemarks::filled({rule.help});
         mRemarks.setCause(cause);
     }
 
@@ -84,7 +84,7 @@ public:
     /** From now on changes are recorded, but not made. */
     void onlyRecord();
     /** Takes an element out, as a comment, because of what the sentence says of it. */
-    void takeOut(const SEdited& edited, const QString& sentence, CRemarks::Arguments arguments = {});
+    void takeOut(const SEdited& edited, const SWords& words, CRemarks::Arguments arguments = {});
     /** Takes an element out because an attribute of it has no meaning. */
     void takeOutUnknown(const SEdited& edited, QLatin1String attribute);
     /** Writes something readable in place of an attribute that has no meaning. */
@@ -108,10 +108,9 @@ private:
         QString text;
     };
 
-    QString unreadableReason() const;
+    SWords unreadableReason() const;
     void remarkUnknown(const SEdited& edited, QLatin1String attribute);
-    void remarkLeft(
-        const SEdited& edited, const QString& reason, const QString& sentence, CRemarks::Arguments arguments);
+    void remarkLeft(const SEdited& edited, const SWords& reason, const SWords& words, CRemarks::Arguments arguments);
     void replace(SRange range, const QString& text);
     void setAttribute(const CXmlElement& element, QLatin1String name, const QString& value);
     void comment(const CXmlElement& element);

@@ -16,7 +16,7 @@ void profiles(const CDescription& description, CXmlEdits& edits)
         const CXmlElement body = profile.child(TAG_PROFILE_BODY);
         const CXmlElement header = profile.child(TAG_PROFILE_HEADER);
         if (body.isNull() || header.isNull()) {
-            edits.takeOut(profile, CRemarks::tr("the profile has no header or no body"));
+            edits.takeOut(profile, CRemarks::say("the profile has no header or no body"));
         }
     }
     for (const CXmlElement& body : description.bodies(EProfile::Network)) {
@@ -25,7 +25,7 @@ void profiles(const CDescription& description, CXmlEdits& edits)
             return entry.element.parent().parent().parent() == body && entry.index;
         });
         if (!hasObjects) {
-            edits.takeOut(body.parent(), CRemarks::tr("the network profile has no objects"));
+            edits.takeOut(body.parent(), CRemarks::say("the network profile has no objects"));
         }
     }
 }
@@ -38,7 +38,7 @@ void headerNumbers(const CDescription& description, CXmlEdits& edits)
             const CXmlElement number = reference.child(name);
             const QString text = number.text();
             if (!text.trimmed().isEmpty() && !CXmlValue::toNumber(text, BY_PREFIX)) {
-                edits.takeOut(number, CRemarks::tr("%1 is \"%2\""), {name, text});
+                edits.takeOut(number, CRemarks::say("%1 is \"%2\""), {name, text});
                 edits.supplyChildren(reference, {{name, QString(), QStringLiteral("1")}});
             }
         }
@@ -80,7 +80,7 @@ void labels(const CXmlElement& list, CXmlEdits& edits)
         }
         edits.supply(label, missing);
         if (!isText && !isReference) {
-            edits.takeOut(label, CRemarks::tr("<%1> is not a label"), {label.name()});
+            edits.takeOut(label, CRemarks::say("<%1> is not a label"), {label.name()});
             edits.supplyChildren(
                 list, {{VAL_GLABTYP_LABEL, QStringLiteral("lang=\"en\""), QString()}}, label.nextSibling());
         }
@@ -94,7 +94,7 @@ void characteristics(const CDescription& description, CXmlEdits& edits)
             body.child(TAG_DEVICE_FUNCTION).child(TAG_CAPABILITIES).child(TAG_CHARACTERISTICS_LIST);
         const CXmlElement category = list.child(TAG_CATEGORY);
         if (!category.isNull() && category.firstChild().isNull()) {
-            edits.takeOut(category, CRemarks::tr("<%1> is empty"), {TAG_CATEGORY});
+            edits.takeOut(category, CRemarks::say("<%1> is empty"), {TAG_CATEGORY});
         }
         labels(category, edits);
         labels(list.child(TAG_CHARACTERISTIC).child(TAG_CHARACTERISTIC_NAME), edits);
@@ -110,9 +110,10 @@ void dictionaryEntries(const CDescription& description, CXmlEdits& edits)
         const SEntry* const first =
             entry.index && !entry.isSubObject ? description.dictionary().object(*entry.index) : &entry;
         if (!number) {
-            edits.takeOut(entry, CRemarks::tr("the index is not readable"));
+            edits.takeOut(entry, CRemarks::say("the index is not readable"));
         } else if (first != &entry) {
-            edits.takeOut(entry, CRemarks::tr("the object duplicates line %1"), {first->element.line()});
+            edits.takeOut(
+                entry, CRemarks::say("the object duplicates line %1"), {SArgument::line(first->element.line())});
         } else if (!entry.objectCode) {
             edits.replaceUnknown(entry, ATTR_OBJECT_TYPE, QStringLiteral("0"));
         }

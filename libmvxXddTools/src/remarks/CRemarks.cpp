@@ -9,23 +9,6 @@ namespace
 {
 // Longest text of a file that a message repeats, in characters.
 constexpr int MAX_QUOTED_LENGTH = 200;
-
-// The sentence with the arguments for which `fills` holds in the places of their "%1" to "%9".
-template <typename Fills> QString replaced(const QString& sentence, CRemarks::Arguments arguments, Fills fills)
-{
-    using Size = decltype(sentence.size());
-    QString text;
-    Size begin = 0; // Of what is not copied yet
-    for (Size i = sentence.indexOf(QLatin1Char('%')); i >= 0; i = sentence.indexOf(QLatin1Char('%'), i + 1)) {
-        const auto number = i + 1 < sentence.size() ? std::size_t(sentence.at(i + 1).unicode() - '1') : SIZE_MAX;
-        if (number < arguments.size() && fills(arguments.begin()[number])) {
-            text.append(sentence.constData() + begin, i - begin);
-            text += arguments.begin()[number].shown;
-            begin = i + 2;
-        }
-    }
-    return text.append(sentence.constData() + begin, sentence.size() - begin);
-}
 } // namespace
 
 QString SPlace::entry() const
@@ -33,40 +16,10 @@ QString SPlace::entry() const
     if (!isEntry) {
         return QString();
     }
-    QString object = index ? CCanOpenNames::entry(*index) : QStringLiteral("?");
-    if (!isSubObject) {
-        return object;
-    }
-    return index && subIndex ? CCanOpenNames::entry(*index, subIndex) : object + QLatin1String(":?");
-}
-
-SArgument::SArgument(QLatin1String word)
-    : shown(word)
-    , isWord(true)
-{}
-
-SArgument::SArgument(const QString& text)
-    : shown(CRemarks::cut(text))
-{}
-
-SArgument::SArgument(quint64 number)
-    : shown(QString::number(number))
-{}
-
-SArgument::SArgument(int number)
-    : shown(QString::number(number))
-{}
-
-SArgument::SArgument(unsigned int number)
-    : shown(QString::number(number))
-{}
-
-SArgument SArgument::word(const QString& text)
-{
-    SArgument argument{QString()};
-    argument.shown = text;
-    argument.isWord = true;
-    return argument;
+    const QString object = index ? CCanOpenNames::entry(*index) : QStringLiteral("?");
+    return !isSubObject        ? object
+           : index && subIndex ? CCanOpenNames::entry(*index, subIndex)
+                               : object + QLatin1String(":?");
 }
 
 void CRemarks::setCause(const CXddRemark& cause)
@@ -74,18 +27,22 @@ void CRemarks::setCause(const CXddRemark& cause)
     mCause = cause;
 }
 
-void CRemarks::add(const SPlace& place, const QString& sentence, Arguments arguments)
+CXddSentence CRemarks::filled(const SWords& words, Arguments arguments)
+{
+    return CXddSentence(SSentence{words, arguments});
+}
+
+void CRemarks::add(const SPlace& place, const SWords& words, Arguments arguments)
 {
     mRemarks << mCause;
     CXddRemark& remark = mRemarks.last();
     remark.mLine = place.line;
     remark.mColumn = place.column;
+    remark.mIsEntry = place.isEntry;
+    remark.mIsSubObject = place.isSubObject;
     remark.mIndex = place.index;
     remark.mSubIndex = place.subIndex;
-    const QString text = filled(sentence, arguments);
-    remark.mText = place.isEntry ? QStringLiteral("%1: ").arg(place.entry()) + text : text;
-    const QString words = replaced(sentence, arguments, [](const SArgument& argument) { return argument.isWord; });
-    remark.mGroup = mCause.mRule + (place.isEntry ? QLatin1String(" entry ") : QLatin1String(" ")) + words;
+    remark.mSentence = filled(words, arguments);
 }
 
 void CRemarks::add(const CXddRemark& remark)
@@ -93,30 +50,30 @@ void CRemarks::add(const CXddRemark& remark)
     mRemarks << remark;
 }
 
-void CRemarks::taken(const SPlace& place, QLatin1String rule, const QString& sentence, Arguments arguments)
+void CRemarks::taken(const SPlace& place, QLatin1String rule, const SWords& words, Arguments arguments)
 {
-    add(CXddRemark::KIND_CHANGE, place, rule, sentence, arguments);
+    add(CXddRemark::KIND_CHANGE, place, rule, words, arguments);
 }
 
-void CRemarks::left(const SPlace& place, QLatin1String rule, const QString& sentence, Arguments arguments)
+void CRemarks::left(const SPlace& place, QLatin1String rule, const SWords& words, Arguments arguments)
 {
-    add(CXddRemark::KIND_LEFT, place, rule, sentence, arguments);
+    add(CXddRemark::KIND_LEFT, place, rule, words, arguments);
 }
 
-void CRemarks::found(const SPlace& place, QLatin1String rule, const QString& sentence, Arguments arguments)
+void CRemarks::found(const SPlace& place, QLatin1String rule, const SWords& words, Arguments arguments)
 {
-    add(CXddRemark::KIND_FINDING, place, rule, sentence, arguments);
+    add(CXddRemark::KIND_FINDING, place, rule, words, arguments);
 }
 
 void CRemarks::add(
-    CXddRemark::EKind kind, const SPlace& place, QLatin1String rule, const QString& sentence, Arguments arguments)
+    CXddRemark::EKind kind, const SPlace& place, QLatin1String rule, const SWords& words, Arguments arguments)
 {
     CXddRemark cause;
     cause.mKind = kind;
     cause.mSeverity = CXddRemark::SEVERITY_WARNING;
     cause.mRule = rule;
     setCause(cause);
-    add(place, sentence, arguments);
+    add(place, words, arguments);
 }
 
 QList<CXddRemark> CRemarks::inOrder() const
@@ -127,15 +84,10 @@ QList<CXddRemark> CRemarks::inOrder() const
     });
     const auto isSame = [](const CXddRemark& left, const CXddRemark& right) {
         return left.mLine == right.mLine && left.mColumn == right.mColumn && left.mRule == right.mRule
-               && left.mText == right.mText;
+               && left.mIndex == right.mIndex && left.mSubIndex == right.mSubIndex && left.mSentence == right.mSentence;
     };
     remarks.erase(std::unique(remarks.begin(), remarks.end(), isSame), remarks.end());
     return remarks;
-}
-
-QString CRemarks::filled(const QString& sentence, Arguments arguments)
-{
-    return replaced(sentence, arguments, [](const SArgument&) { return true; });
 }
 
 QString CRemarks::cut(const QString& text)

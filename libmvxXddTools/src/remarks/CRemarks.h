@@ -2,6 +2,7 @@
 #define MVXXDDTOOLS_CREMARKS_H
 
 #include "CXddRemark.h"
+#include "remarks/SSentence.h"
 
 #include <QCoreApplication>
 #include <QList>
@@ -24,24 +25,8 @@ struct SPlace
     QString entry() const;
 };
 
-/** What takes the place of a "%1" in the sentence of a remark. */
-struct SArgument
-{
-    SArgument(QLatin1String word); ///< A word of the format, which remarks that are alike have in common
-    SArgument(const QString& text);
-    SArgument(quint64 number);
-    SArgument(int number);
-    SArgument(unsigned int number);
-
-    /** Several words of the format. */
-    static SArgument word(const QString& text);
-
-    QString shown; ///< No text of a file is longer than 200 characters here
-    bool isWord = false;
-};
-
 /**
- * Collects remarks. All sentences of the library are translated in its context, and filled, cut and put in order here.
+ * Collects remarks and puts them in order. All sentences of the library are translated in its context.
  */
 class CRemarks
 {
@@ -54,28 +39,30 @@ public:
     void setCause(const CXddRemark& cause);
     const CXddRemark& cause() const { return mCause; }
 
-    /** Adds a remark; the name of an entry is put in front of the sentence. */
-    void add(const SPlace& place, const QString& sentence, Arguments arguments = {});
+    /** The words of a sentence, to be found by the translators' tools; @p count is what "%n" stands for. */
+    static SWords say(const char* text, const char* = nullptr, int count = -1) { return {text, count}; }
+
+    /** A sentence of words with arguments in their places. */
+    static CXddSentence filled(const SWords& words, Arguments arguments = {});
+
+    /** Adds a remark about a place. */
+    void add(const SPlace& place, const SWords& words, Arguments arguments = {});
     /** Adds a remark that is made already. */
     void add(const CXddRemark& remark);
 
     /** Something by a rule of its own: it was taken for what it means, was not taken, or is only found. */
-    void taken(const SPlace& place, QLatin1String rule, const QString& sentence, Arguments arguments = {});
-    void left(const SPlace& place, QLatin1String rule, const QString& sentence, Arguments arguments = {});
-    void found(const SPlace& place, QLatin1String rule, const QString& sentence, Arguments arguments = {});
+    void taken(const SPlace& place, QLatin1String rule, const SWords& words, Arguments arguments = {});
+    void left(const SPlace& place, QLatin1String rule, const SWords& words, Arguments arguments = {});
+    void found(const SPlace& place, QLatin1String rule, const SWords& words, Arguments arguments = {});
 
     /** All remarks in the order of the lines. Two that say the same of one place are one. */
     QList<CXddRemark> inOrder() const;
-
-    /** A translated sentence with its arguments in place. */
-    static QString filled(const QString& sentence, Arguments arguments);
 
     /** A text of a file, as a message repeats it: of a megabyte no more than its beginning. */
     static QString cut(const QString& text);
 
 private:
-    void add(
-        CXddRemark::EKind kind, const SPlace& place, QLatin1String rule, const QString& sentence, Arguments arguments);
+    void add(CXddRemark::EKind kind, const SPlace& place, QLatin1String rule, const SWords& words, Arguments arguments);
 
     CXddRemark mCause;
     QList<CXddRemark> mRemarks;

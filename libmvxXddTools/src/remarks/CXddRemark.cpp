@@ -1,6 +1,7 @@
 #include "CXddRemark.h"
 
 #include "CCanOpenNames.h"
+#include "remarks/CRemarks.h"
 
 CXddRemark::CXddRemark() = default;
 
@@ -20,4 +21,25 @@ QString CXddRemark::severityAsStr(ESeverity severity)
 QString CXddRemark::entry() const
 {
     return mIndex ? CCanOpenNames::entry(*mIndex, mSubIndex) : QString();
+}
+
+QString CXddRemark::text() const
+{
+    return address() + mSentence.text();
+}
+
+QString CXddRemark::comparable() const
+{
+    return address() + mSentence.comparable();
+}
+
+QString CXddRemark::group() const
+{
+    return mRule + (mIsEntry ? QLatin1String(" entry ") : QLatin1String(" ")) + mSentence.common();
+}
+
+QString CXddRemark::address() const
+{
+    const SPlace place = {mLine, mColumn, mIsEntry, mIsSubObject, mIndex, mSubIndex};
+    return mIsEntry ? place.entry() + QLatin1String(": ") : QString();
 }

@@ -41,7 +41,7 @@ QByteArray declaredEncoding(const QByteArray& bytes)
 }
 } // namespace
 
-bool CEncodedText::decode(const QByteArray& bytes, QString& errorText)
+bool CEncodedText::decode(const QByteArray& bytes, CXddSentence& error)
 {
     QByteArray encoding = takeMark(bytes);
     if (encoding.isEmpty()) {
@@ -51,12 +51,11 @@ bool CEncodedText::decode(const QByteArray& bytes, QString& errorText)
         encoding = UTF_8;
     }
     if (encodingName(encoding).isEmpty()) {
-        errorText =
-            CRemarks::filled(CRemarks::tr("The encoding \"%1\" is not known."), {QString::fromLatin1(encoding)});
+        error = CRemarks::filled(CRemarks::say("The encoding \"%1\" is not known."), {QString::fromLatin1(encoding)});
         return false;
     }
     if (!decodeAs(encoding, bytes)) {
-        errorText = CRemarks::filled(CRemarks::tr("The text is not valid %1."), {QString::fromLatin1(mEncoding)});
+        error = CRemarks::filled(CRemarks::say("The text is not valid %1."), {QString::fromLatin1(mEncoding)});
         return false;
     }
     return true;

@@ -1,6 +1,7 @@
 #ifndef MVXXDDTOOLS_CENCODEDTEXT_H
 #define MVXXDDTOOLS_CENCODEDTEXT_H
 
+#include "CXddSentence.h"
 #include "text/Encodings.h"
 
 #include <QByteArray>
@@ -15,7 +16,7 @@ public:
      *
      * @return false, with a message, when the encoding is not known or the text would not come back byte for byte
      */
-    bool decode(const QByteArray& bytes, QString& errorText);
+    bool decode(const QByteArray& bytes, CXddSentence& error);
 
     /**
      * Decodes the bytes of a plain text: by its byte order mark, else as UTF-8, UTF-16 or Windows-1252, as which

@@ -270,14 +270,14 @@ public:
             const QStringView name =
                 mTree.view({int(tag.begin) + 2, std::max(int(tag.end) - 1, int(tag.begin) + 2)}).trimmed();
             const SNode& open = mTree.node(mOpen);
-            if (mMismatch.mText.isEmpty() && name != mTree.view({open.begin + 1, open.name.end})) {
+            if (mMismatch.mSentence.isEmpty() && name != mTree.view({open.begin + 1, open.name.end})) {
                 countLines(tag.begin);
                 mMismatchEnd = tag.end;
                 mMismatch.mLine = mLine;
                 mMismatch.mColumn = columnHere();
-                mMismatch.mText = CRemarks::filled(
-                    CRemarks::tr("</%1> does not match <%2> in line %3"),
-                    {name.toString(), mTree.raw({open.begin + 1, open.name.end}), open.line});
+                mMismatch.mSentence = CRemarks::filled(
+                    CRemarks::say("</%1> does not match <%2> in line %3"),
+                    {name.toString(), mTree.raw({open.begin + 1, open.name.end}), SArgument::line(open.line)});
             }
             close(int(tag.begin), int(tag.end));
         }
@@ -299,9 +299,9 @@ public:
     /** The first end tag of another element than the open one, if it ends up to that place. */
     bool hasMismatch(qsizetype end, CXddRemark& failure) const
     {
-        const bool has = !mMismatch.mText.isEmpty() && mMismatchEnd <= end;
+        const bool has = !mMismatch.mSentence.isEmpty() && mMismatchEnd <= end;
         if (has) {
-            failure.mText = mMismatch.mText;
+            failure.mSentence = mMismatch.mSentence;
             failure.mLine = mMismatch.mLine;
             failure.mColumn = mMismatch.mColumn;
         }
@@ -371,11 +371,11 @@ bool CXmlTree::read(const QString& text, CXddRemark& failure)
         return true;
     }
     if (isWhole || (!isInLimits && reader.error() == QXmlStreamReader::PrematureEndOfDocumentError)) {
-        failure.mText = scanner.refusal();
+        failure.mSentence = CXddSentence(scanner.refusal());
         failure.mLine = scanner.line();
         failure.mColumn = scanner.column();
     } else if (!builder.hasMismatch(reader.characterOffset(), failure)) {
-        failure.mText = reader.errorString();
+        failure.mSentence = CXddSentence(reader.errorString());
         failure.mLine = int(reader.lineNumber());
         failure.mColumn = int(reader.columnNumber());
     }
@@ -388,7 +388,7 @@ bool CXmlTree::readWritten(const QString& text, const std::vector<int>& lines, C
     CBuilder builder(*this);
     CBuilder::CScanner scanner = builder.scanner();
     if (!scanner.scan()) {
-        failure.mText = scanner.refusal();
+        failure.mSentence = CXddSentence(scanner.refusal());
         return false;
     }
     for (std::size_t element = 0; element < mNodes.size(); ++element) {
