@@ -3,7 +3,6 @@
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
 #include <CXddPage.h>
-#include <CXddPdos.h>
 #include <ICIso15745.h>
 
 #include <cstddef>
@@ -48,17 +47,21 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(again.isOpen() && CXddNormalizer::normalize(again).mText == copy.mText);
     const CXddCopy right = CXddNormalizer::conform(document);
     const CXddDocument rightAgain = CXddDocument::open(right.mText);
-    const bool isXdd = document.form() == CXddDocument::FORM_XDD;
+    const bool isXdd = document.form() == CXddDevice::FORM_XDD;
     require(rightAgain.isOpen() && (!isXdd || CXddNormalizer::conform(rightAgain).mText == right.mText));
     const CXddEds eds = CXddEdsWriter::write(document);
     requireSound(eds.mLosses, lines);
     require(eds.mIncomplete <= eds.mEntries);
-    const CXddEds dcf = CXddEdsWriter::writeDcf(document, CXddEdsWriter::commissioning(document));
+    const CXddEds dcf = CXddEdsWriter::writeDcf(document, document.device().mCommissioning);
     requireSound(dcf.mLosses, lines);
     // What is written is read without a remark, and written again as it is.
     const CXddDocument written = CXddDocument::open(eds.mText);
     require(written.isOpen() && written.remarks().isEmpty() && CXddEdsWriter::write(written).mText == eds.mText);
-    CXddPdos::of(document);
+    document.pdos();
+    document.facts(QString());
+    for (const CXddEntry& entry : document.entries()) {
+        document.texts(entry.mIndex, entry.mSubIndex);
+    }
     const CXddDbc dbc = CXddDbcWriter::write({CXddNode(document, 5)}, CXddDbcWriter::OPTION_ALL);
     requireSound(dbc.mRemarks.value(0), lines);
     for (const char character : dbc.mText) {
@@ -73,6 +76,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CXddRemark failure;
     require(CXddNormalizer::load(document, *reader, remarks, failure) || !failure.text().isEmpty());
     requireSound(remarks, lines);
-    CXddPdos::of(reader->getObjList());
     return 0;
 }

@@ -4,7 +4,6 @@
 #include <CXddChecker.h>
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
-#include <CXddPdos.h>
 
 #include <QtTest>
 
@@ -118,11 +117,11 @@ QStringList shown(const QList<CXddPdo>& pdos)
     for (const CXddPdo& pdo : pdos) {
         QStringList fields;
         for (const CXddPdoField& field : pdo.mFields) {
-            fields << QStringLiteral("%1 %2").arg(field.entry(), QString::number(field.mBits));
+            fields << QStringLiteral("%1 %2 %3").arg(field.entry(), QString::number(field.mBits), field.rangeText());
         }
-        lines << QStringLiteral("%1 %2: %3")
+        lines << QStringLiteral("%1 %2 %3 %4: %5")
                      .arg(
-                         QString::number(int(pdo.mIsTransmit)), QString::number(pdo.mNumber),
+                         pdo.name(), pdo.canIdText(), QString::number(int(pdo.mIsEnabled)), pdo.transmissionText(),
                          fields.join(QLatin1String(", ")));
     }
     return lines;
@@ -155,13 +154,13 @@ void TestAgreement::entries()
     }
     QCOMPARE(entriesOf(read, lost), entriesOf(document, lost));
     QVERIFY(!entriesOf(read, lost).isEmpty());
-    QCOMPARE(read.form(), CXddDocument::FORM_DCF);
+    QCOMPARE(read.form(), CXddDevice::FORM_DCF);
     QCOMPARE(read.remarks().size(), 0);
-    QCOMPARE(CXddEdsWriter::writeDcf(read, CXddEdsWriter::commissioning(read)).mText, dcf.mText);
+    QCOMPARE(CXddEdsWriter::writeDcf(read, read.device().mCommissioning).mText, dcf.mText);
 
     const QByteArray eds = CXddEdsWriter::write(document).mText;
     const CXddDocument readEds = CXddDocument::open(eds);
-    QCOMPARE(readEds.form(), CXddDocument::FORM_EDS);
+    QCOMPARE(readEds.form(), CXddDevice::FORM_EDS);
     QCOMPARE(CXddEdsWriter::write(readEds).mText, eds);
 }
 
@@ -170,12 +169,15 @@ void TestAgreement::pdos_data()
     descriptions();
 }
 
-// Those of the description and those of the records that are loaded from it.
+// Those of a description and those of the DCF that is written of it.
 void TestAgreement::pdos()
 {
     QFETCH(QByteArray, text);
     const CXddDocument document = CXddDocument::open(text);
-    QCOMPARE(shown(CXddPdos::of(document)), shown(CXddPdos::of(readerOf(document)->getObjList())));
+    CXddCommissioning node;
+    node.mNodeId = 5;
+    const CXddDocument dcf = CXddDocument::open(CXddEdsWriter::writeDcf(document, node).mText);
+    QCOMPARE(shown(dcf.pdos()), shown(document.pdos(5)));
 }
 
 void TestAgreement::findings_data()

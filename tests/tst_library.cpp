@@ -3,7 +3,6 @@
 #include <CXddChecker.h>
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
-#include <CXddPdos.h>
 
 #include <QProcess>
 #include <QtTest>
@@ -158,7 +157,13 @@ void TestLibrary::layouts()
          layoutOf<CXddDocument>("CXddDocument"),
          layoutOf("CXddCopy", &CXddCopy::mText, &CXddCopy::mLoads, &CXddCopy::mRemarks),
          layoutOf("CXddEds", &CXddEds::mText, &CXddEds::mEntries, &CXddEds::mIncomplete, &CXddEds::mLosses),
-         layoutOf("CXddPdo", &CXddPdo::mIsTransmit, &CXddPdo::mNumber, &CXddPdo::mFields)});
+         layoutOf("CXddPdo", &CXddPdo::mIsTransmit, &CXddPdo::mNumber, &CXddPdo::mFields, &CXddPdo::mDoubts),
+         layoutOf(
+             "CXddEntry", &CXddEntry::mIndex, &CXddEntry::mDataType, &CXddEntry::mDefaultValue,
+             &CXddEntry::mUniqueIdRef),
+         layoutOf(
+             "CXddDevice", &CXddDevice::mForm, &CXddDevice::mNetworkProfile, &CXddDevice::mBitRates,
+             &CXddDevice::mCommissioning)});
 }
 
 void TestLibrary::soNames()

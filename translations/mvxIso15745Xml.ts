@@ -1595,39 +1595,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>no COB-ID is stated: the PDO is taken with the predefined CAN-ID %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>COB-ID %1 has more than 11 bits, but bit 29 is not set: it is taken as %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the CAN-ID is 0, which is that of the network management</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>CAN-ID %1 is restricted</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>the actual COB-ID %1 is that of node-ID %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the PDO has no mapping</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>no number of active entries is stated: those in front of the first empty one are taken</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the active entry maps nothing</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 and what follows it are left out: they are beyond %2 bits</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1735,15 +1707,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Follows</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Instance name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Follows profile</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1760,10 +1724,6 @@
     </message>
     <message>
         <source>Device profile</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Network profile</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2189,6 +2149,78 @@
         <translation type="unfinished">
             <numerusform></numerusform>
         </translation>
+    </message>
+    <message>
+        <source>left out: the index is not readable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left out: the object duplicates line %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not understood</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specification</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File, device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File, network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no COB-ID is stated: the predefined one is taken, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is active, but what it maps is not stated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PDO states no COB-ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools take the predefined one, or none. State it as the default value of sub-index 1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A mapping does not state how many entries are active, or what an active one maps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools map all entries, the first ones or none. State a default value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An entry of a mapping that is not active maps something that cannot be mapped so</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is wrong on the bus until somebody activates it. Correct the entry, or set it to 0.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; of &lt;%3&gt; is not a number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>multiplier or offset of a parameter is not a number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools show raw values as physical ones. Write a decimal number with a point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; of %3 is not a number and is not applied</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2766,12 +2798,6 @@
         <source>Sub-object %1</source>
         <translation type="unfinished"></translation>
     </message>
-    <message numerus="yes">
-        <source>%1: %n place(s) not written as the format does, read as meant; &apos;xddnormalize --dry-run&apos; lists them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
     <message>
         <source>No file is named; --sample shows the embedded sample.</source>
         <translation type="unfinished"></translation>
@@ -2929,6 +2955,12 @@
     <message>
         <source>With --pdos: the node-ID that CAN-IDs are those of, unless the description states it.</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n place(s) not written as the format does, read as meant; xddcheck lists them.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>

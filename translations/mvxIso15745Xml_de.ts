@@ -1597,40 +1597,12 @@
         <translation>keine COB-ID ist angegeben: Das PDO wird als abgeschaltet genommen</translation>
     </message>
     <message>
-        <source>no COB-ID is stated: the PDO is taken with the predefined CAN-ID %1</source>
-        <translation>keine COB-ID ist angegeben: Das PDO wird mit der vorgesehenen CAN-ID %1 genommen</translation>
-    </message>
-    <message>
-        <source>COB-ID %1 has more than 11 bits, but bit 29 is not set: it is taken as %2</source>
-        <translation>die COB-ID %1 hat mehr als 11 Bit, aber Bit 29 ist nicht gesetzt: Sie wird als %2 genommen</translation>
-    </message>
-    <message>
-        <source>the CAN-ID is 0, which is that of the network management</source>
-        <translation>die CAN-ID ist 0, das ist die des Netzwerkmanagements</translation>
-    </message>
-    <message>
-        <source>CAN-ID %1 is restricted</source>
-        <translation>die CAN-ID %1 ist gesperrt</translation>
-    </message>
-    <message>
         <source>the actual COB-ID %1 is that of node-ID %2</source>
         <translation>die eingestellte COB-ID %1 ist die der Knotennummer %2</translation>
     </message>
     <message>
-        <source>the PDO has no mapping</source>
-        <translation>das PDO hat keine Abbildung</translation>
-    </message>
-    <message>
         <source>no number of active entries is stated: those in front of the first empty one are taken</source>
         <translation>keine Zahl aktiver Einträge ist angegeben: Die vor dem ersten leeren werden genommen</translation>
-    </message>
-    <message>
-        <source>the active entry maps nothing</source>
-        <translation>der aktive Eintrag bildet nichts ab</translation>
-    </message>
-    <message>
-        <source>%1 and what follows it are left out: they are beyond %2 bits</source>
-        <translation>%1 und was folgt sind weggelassen: Sie liegen jenseits von %2 Bit</translation>
     </message>
     <message>
         <source>%1+node-ID</source>
@@ -1737,16 +1709,8 @@
         <translation>Baudatum</translation>
     </message>
     <message>
-        <source>Follows</source>
-        <translation>Folgt</translation>
-    </message>
-    <message>
         <source>Instance name</source>
         <translation>Instanzname</translation>
-    </message>
-    <message>
-        <source>Follows profile</source>
-        <translation>Folgt dem Profil</translation>
     </message>
     <message>
         <source>Revision number</source>
@@ -1763,10 +1727,6 @@
     <message>
         <source>Device profile</source>
         <translation>Geräteprofil</translation>
-    </message>
-    <message>
-        <source>Network profile</source>
-        <translation>Netzwerkprofil</translation>
     </message>
     <message>
         <source>Data types</source>
@@ -2197,6 +2157,78 @@
             <numerusform>%n PDO, das nichts abbildet</numerusform>
             <numerusform>%n PDOs, die nichts abbilden</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>left out: the index is not readable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left out: the object duplicates line %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is not understood</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specification</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File, device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File, network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no COB-ID is stated: the predefined one is taken, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is active, but what it maps is not stated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PDO states no COB-ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools take the predefined one, or none. State it as the default value of sub-index 1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A mapping does not state how many entries are active, or what an active one maps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools map all entries, the first ones or none. State a default value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An entry of a mapping that is not active maps something that cannot be mapped so</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is wrong on the bus until somebody activates it. Correct the entry, or set it to 0.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; of &lt;%3&gt; is not a number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>multiplier or offset of a parameter is not a number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools show raw values as physical ones. Write a decimal number with a point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; of %3 is not a number and is not applied</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2785,13 +2817,6 @@
         <source>Sub-object %1</source>
         <translation>Unterobjekt %1</translation>
     </message>
-    <message numerus="yes">
-        <source>%1: %n place(s) not written as the format does, read as meant; &apos;xddnormalize --dry-run&apos; lists them.</source>
-        <translation>
-            <numerusform>%1: %n Stelle ist nicht so geschrieben, wie das Format es tut, und ist gelesen, wie sie gemeint ist; &apos;xddnormalize --dry-run&apos; nennt sie.</numerusform>
-            <numerusform>%1: %n Stellen sind nicht so geschrieben, wie das Format es tut, und sind gelesen, wie sie gemeint sind; &apos;xddnormalize --dry-run&apos; nennt sie.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>No file is named; --sample shows the embedded sample.</source>
         <translation>Keine Datei ist genannt; --sample zeigt das eingebettete Muster.</translation>
@@ -2950,6 +2975,13 @@
     <message>
         <source>With --pdos: the node-ID that CAN-IDs are those of, unless the description states it.</source>
         <translation>Mit --pdos: die Knotennummer, deren CAN-IDs gezeigt werden, wenn die Beschreibung keine angibt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n place(s) not written as the format does, read as meant; xddcheck lists them.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>

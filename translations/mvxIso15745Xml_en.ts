@@ -149,17 +149,17 @@
 <context>
     <name>xddinfo</name>
     <message numerus="yes">
-        <source>%1: %n place(s) not written as the format does, read as meant; &apos;xddnormalize --dry-run&apos; lists them.</source>
-        <translation>
-            <numerusform>%1: %n place not written as the format does, read as meant; &apos;xddnormalize --dry-run&apos; lists them.</numerusform>
-            <numerusform>%1: %n places not written as the format does, read as meant; &apos;xddnormalize --dry-run&apos; lists them.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n byte(s)</source>
         <translation>
             <numerusform>%n byte</numerusform>
             <numerusform>%n bytes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n place(s) not written as the format does, read as meant; xddcheck lists them.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
         </translation>
     </message>
 </context>

@@ -3,8 +3,6 @@
 
 #include "mvxXddTools_export.h"
 
-#include <CCanOpenObject.h>
-
 #include <QString>
 
 #include <optional>
@@ -33,14 +31,8 @@ public:
     /** The name of a data type for narrow tables, such as "U32" for 7; that of dataType() where it has none. */
     static QString shortDataType(unsigned int dataType);
 
-    /** What kind of entry it is: the data type of a variable, else the object code. */
-    static QString type(const CCanOpenSubObject& entry, bool isShort = false);
-
-    /** The access type of an entry, "rw"; nothing where none is known. */
-    static QString access(const CCanOpenSubObject& entry);
-
-    /** The PDO mapping of an entry, "optional"; nothing where none is known. */
-    static QString mapping(const CCanOpenSubObject& entry);
+    /** The name of an entry behind that of its object, "Identity: Vendor-ID"; one of them where they are the same. */
+    static QString fullName(const QString& object, const QString& name);
 
     /** The name of the device profile that the lower 16 bits of object 0x1000 name, such as "CiA 401, generic I/O
      * modules" for 0x191, in the language of the program; "CiA 499" for one without a name here, nothing for a number

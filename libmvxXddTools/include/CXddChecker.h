@@ -6,6 +6,7 @@
 #include "mvxXddTools_export.h"
 
 #include <QList>
+#include <QStringList>
 
 /**
  * Says what is wrong with a CANopen description: what makes some tool misread or refuse it, and what was probably not
@@ -14,8 +15,10 @@
 class MVXXDDTOOLS_EXPORT CXddChecker
 {
 public:
-    /** What is wrong with a description, in the order of the lines. Of a document that is not open that is why. */
-    static QList<CXddRemark> check(const CXddDocument& document);
+    /** What is wrong with a description, in the order of the lines. Of a document that is not open that is why. Rules
+     * that are disabled, by their IDs, are not applied; what they would have said in place of others is said by those.
+     */
+    static QList<CXddRemark> check(const CXddDocument& document, const QStringList& disabledRules = {});
 
     /** The rules, in the order of the manual. */
     static QList<CXddRule> rules();

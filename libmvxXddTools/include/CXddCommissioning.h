@@ -7,6 +7,8 @@
 
 #include <QString>
 
+#include <optional>
+
 /** What is configured for a device in its network: "deviceCommissioning" of an XDC, [DeviceComissioning] of a DCF. */
 class MVXXDDTOOLS_EXPORT CXddCommissioning
 {
@@ -20,7 +22,7 @@ public:
     CNetworkCanOpenProfile::EBaudrate mBaudrate = CNetworkCanOpenProfile::BAUD_INVALID;
     unsigned int mNetworkNumber = 0; ///< "networkNumber"; 0 where none is stated
     QString mNetworkName;            ///< "networkName"
-    bool mIsManager = false;         ///< "CANopenManager": the device manages the network
+    std::optional<bool> mIsManager;  ///< "CANopenManager": the device manages the network
 };
 
 #endif

@@ -14,10 +14,10 @@ class MVXXDDTOOLS_EXPORT CXddNode
 public:
     /** A device without a description and a node-ID. */
     CXddNode();
-    /** A device with its description, which has to be open, and its node-ID. */
+    /** A device with its description and its node-ID. */
     CXddNode(const CXddDocument& document, unsigned int nodeId);
 
-    CXddDocument mDocument;   ///< Its description, which has to be open
+    CXddDocument mDocument;   ///< Its description; a device without an open one sends nothing
     unsigned int mNodeId = 0; ///< From 1 to 127
 };
 

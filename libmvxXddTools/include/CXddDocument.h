@@ -1,52 +1,41 @@
 #ifndef MVXXDDTOOLS_CXDDDOCUMENT_H
 #define MVXXDDTOOLS_CXDDDOCUMENT_H
 
+#include "CXddDevice.h"
+#include "CXddEntry.h"
+#include "CXddEntryTexts.h"
+#include "CXddFact.h"
+#include "CXddPdo.h"
 #include "CXddRemark.h"
 #include "mvxXddTools_export.h"
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 class QIODevice;
+struct SDocument;
 struct SOpened;
 
 /**
- * A CANopen description, opened once, from which CXddNormalizer loads records, CXddChecker makes findings and
- * CXddEdsWriter writes the INI form.
+ * A CANopen description, opened once: what it says of its device, of each entry of the object dictionary and of each
+ * PDO. CXddChecker says what is wrong with it, CXddNormalizer loads the library's records from it, and other classes
+ * write it in other forms.
  *
  * Descriptions are taken as they exist, by their content and whatever their name: XDD and XDC (XML), EDS and DCF (the
  * INI forms of CiA 306), in any encoding that Qt knows, and whether or not they follow their format to the letter. From
  * the INI forms an XDD is made, each element of which keeps the line that it came from; every remark names lines of the
  * file that was opened. The limits for hostile files that the reader keeps are kept here, too.
  *
- * A document never changes, copies share it, and it may be used by several threads.
+ * A document never changes, copies share it, and it may be used by several threads. Of one that is not open everything
+ * is empty.
  */
 class MVXXDDTOOLS_EXPORT CXddDocument
 {
 public:
-    /** The form in which a description is written. */
-    enum EForm : int
-    {
-        FORM_NONE = 0, ///< Not open
-        FORM_XDD = 1,  ///< XML of ISO 15745 (XDD, XDC)
-        FORM_EDS = 2,  ///< INI form of CiA 306
-        FORM_DCF = 3   ///< INI form with what is configured
-    };
-
-    /** Optional items of which a record holds a default when they are absent. */
-    enum EItem : int
-    {
-        ITEM_DEVICE_CREATION_DATE = 0,  ///< "fileCreationDate" of the device profile
-        ITEM_NETWORK_CREATION_DATE = 1, ///< "fileCreationDate" of the network profile
-        ITEM_BAUD_RATE = 2,             ///< "defaultValue" of "baudRate"
-        ITEM_SUPPORTED_BAUD_RATES = 3,  ///< a "supportedBaudRate"
-        ITEM_MANDATORY_OBJECTS = 4,     ///< "mandatoryObjects"
-        ITEM_OPTIONAL_OBJECTS = 5,      ///< "optionalObjects"
-        ITEM_MANUFACTURER_OBJECTS = 6   ///< "manufacturerObjects"
-    };
-
     /** A document that is not open. */
     CXddDocument();
 
@@ -70,10 +59,10 @@ public:
     CXddRemark failure() const;
 
     /** The form of the file. */
-    EForm form() const;
+    CXddDevice::EForm form() const;
 
-    /** What of the file was taken in another meaning than it is written, or was left out, in the order of the lines;
-     * CXddChecker also has what is only wrong. */
+    /** What of the file does not mean what it seems to say, or was left out, in the order of the lines; CXddChecker
+     * also has what is only wrong. */
     QList<CXddRemark> remarks() const;
 
     /** The name that it was opened with. */
@@ -82,17 +71,38 @@ public:
     /** The bytes that it was opened from. */
     QByteArray bytes() const;
 
-    /** True when the description states an item itself, readably; a record cannot tell that from a default. Of a
-     * document that is not open everything counts as stated. */
-    bool states(EItem item) const;
+    /** What it says of its device as a whole. */
+    CXddDevice device() const;
+
+    /** The same for people: vendor, product, versions, profile, revision and serial number. What is not stated is left
+     * out. @p language is that in which texts are taken where there are several, such as "de". */
+    QList<CXddFact> facts(const QString& language) const;
+
+    /** Name, version and dates of the file for people: one fact where both profiles state the same, else two. */
+    QList<CXddFact> fileFacts() const;
+
+    /** The object dictionary: the objects in ascending order, each followed by its sub-objects in the order of the
+     * file. What has no readable index is left out, and of two objects with one index the second. */
+    QList<CXddEntry> entries() const;
+
+    /** What entries() leaves out or could not understand, and why. */
+    QList<CXddRemark> leftOut() const;
+
+    /** One object, or one sub-object of it; with an index of 0 where there is no such entry. */
+    CXddEntry entry(unsigned int index, std::optional<unsigned int> subIndex = std::nullopt) const;
+
+    /** What it says of an entry for people: labels, descriptions, unit, scale and allowed values. */
+    CXddEntryTexts texts(unsigned int index, std::optional<unsigned int> subIndex = std::nullopt) const;
+
+    /** The PDOs of the device with that node-ID, from 1 to 127: the receive PDOs, then the transmit PDOs, each by its
+     * number, disabled and empty ones included. Actual values (XDC, DCF) come before default values. With 0 the node-ID
+     * is the one that the description states; where it states none, CAN-IDs are those of node-ID 0. */
+    QList<CXddPdo> pdos(unsigned int nodeId = 0) const;
 
 private:
-    friend const SOpened& openedOf(const CXddDocument& document);
+    friend const SOpened* openedOf(const CXddDocument& document);
 
-    QString mName;
-    QByteArray mBytes;
-    CXddRemark mFailure;
-    std::shared_ptr<const SOpened> mOpened;
+    std::shared_ptr<const SDocument> mDocument;
 };
 
 #endif

@@ -28,15 +28,12 @@ public:
 class MVXXDDTOOLS_EXPORT CXddEdsWriter
 {
 public:
-    /** The EDS of a description, which has to be open. */
+    /** The EDS of a description; nothing for one that is not open. */
     static CXddEds write(const CXddDocument& document);
 
-    /** The DCF of a description, which has to be open: with actual values, denotations and what is configured for the
+    /** The DCF of a description: with actual values, denotations and what is configured for the
      * device in its network. The node-ID has to be one; "$NODEID" stays in values. */
     static CXddEds writeDcf(const CXddDocument& document, const CXddCommissioning& commissioning);
-
-    /** What a description, which has to be open, states of that itself. */
-    static CXddCommissioning commissioning(const CXddDocument& document);
 };
 
 #endif

@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/** Something that a description states of its device: what it is called, and its value. */
+/** Something that a description states of its device: what it is, and its value. */
 class MVXXDDTOOLS_EXPORT CXddFact
 {
 public:

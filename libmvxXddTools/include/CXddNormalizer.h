@@ -35,11 +35,11 @@ public:
 class MVXXDDTOOLS_EXPORT CXddNormalizer
 {
 public:
-    /** The copy of a description, which has to be open. What is unknown or ambiguous is left as it is. */
+    /** The copy of a description; nothing for one that is not open. What is unknown or ambiguous is left as it is. */
     static CXddCopy normalize(const CXddDocument& document);
 
     /**
-     * A copy of a description in XML, which has to be open, for publishing: what CXddChecker finds and has one right
+     * A copy of a description in XML for publishing: what CXddChecker finds and has one right
      * writing is put right, by the rules of the checker. What has no one right writing is left; the copy of the copy is
      * the same. The copy of an EDS is what normalize() makes of it.
      */

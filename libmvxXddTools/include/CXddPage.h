@@ -29,8 +29,8 @@ public:
         bool mHasFindings = true;                 ///< With what the checker finds
     };
 
-    /** The page of a description, which has to be open. It is in the language of the program; the same description then
-     * always gives the same bytes. Without a text where the description cannot be loaded. */
+    /** The page of a description. It is in the language of the program; the same description then always gives the same
+     * bytes. Without a text, and with the failure, where the description is not open. */
     static CXddPage write(const CXddDocument& document, const SOptions& options);
 
     /** A page that leads to others, which are in its folder. */

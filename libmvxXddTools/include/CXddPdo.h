@@ -39,6 +39,7 @@ public:
     unsigned int mIndex = 0;    ///< Index of the object
     unsigned int mSubIndex = 0; ///< Sub-index; 0 for an object without sub-objects
     bool mIsSubObject = false;  ///< The entry is a sub-object
+    bool mIsDescribed = false;  ///< The dictionary describes it
     QString mName;              ///< Name of the entry
     QString mObjectName;        ///< Name of its object; the same for an object without sub-objects
     unsigned int mDataType = 0; ///< Data type; that of the array for an element without one; 0 when it is not known
@@ -60,7 +61,7 @@ public:
         TRANSMISSION_NOT_STATED = 0,
         TRANSMISSION_ACYCLIC = 1,            ///< 0: with the SYNC after an event
         TRANSMISSION_CYCLIC = 2,             ///< 1 to 240: with every n-th SYNC
-        TRANSMISSION_RESERVED = 3,           ///< 241 to 251
+        TRANSMISSION_RESERVED = 3,           ///< 241 to 251, and of a received one 252 and 253
         TRANSMISSION_REQUEST_SYNC = 4,       ///< 252: sampled with the SYNC, sent on request
         TRANSMISSION_REQUEST = 5,            ///< 253: on request
         TRANSMISSION_EVENT_MANUFACTURER = 6, ///< 254: on an event, or its timer, as the manufacturer says
@@ -69,6 +70,8 @@ public:
 
     CXddPdo();
 
+    /** True when it is enabled and carries something. */
+    bool isInUse() const { return mIsEnabled && bytes() > 0; }
     /** "TPDO1" or "RPDO512" */
     QString name() const;
     /** Index of its communication parameters, 0x1400 to 0x15FF or 0x1800 to 0x19FF. */
@@ -93,18 +96,18 @@ public:
     bool mIsEnabled = false;        ///< Bit 31 of the COB-ID is not set
     unsigned int mCanId = 0;        ///< 11 or 29 bits; 0 where none is known. Without a node-ID that of node-ID 0
     bool mIsExtended = false;       ///< The CAN-ID has 29 bits
-    unsigned int mNodeId = 0;       ///< The node-ID that the CAN-ID is that of; 0 where none is known
+    unsigned int mNodeId = 0;       ///< Node-ID with which the CAN-ID was computed; 0 where none is known
     bool mUsesNodeId = false;       ///< The CAN-ID depends on the node-ID
     bool mAllowsRtr = false;        ///< It is sent on a remote request: bit 30 of the COB-ID is not set
     bool mIsMultiplexed = false;    ///< Its data name the entry that they carry
     std::optional<unsigned int> mTransmissionType;         ///< Sub-index 2
     ETransmission mTransmission = TRANSMISSION_NOT_STATED; ///< What that type means
-    unsigned int mInhibitTime = 0;                         ///< Shortest time between two, in microseconds; 0 for none
+    quint64 mInhibitTime = 0;                              ///< Shortest time between two, in microseconds; 0 for none
     unsigned int mEventTimer = 0; ///< Longest time between two, in milliseconds; 0 for none. A deadline where received
     unsigned int mSyncStart = 0;  ///< Value of the SYNC counter with which it begins; 0 for any
     QList<CXddPdoField> mFields;  ///< What it carries, in order
     QList<CXddPdoField> mBeyond;  ///< What is mapped behind it and does not fit into its 64 bits
-    QList<CXddRemark> mRemarks;   ///< What was left out or taken otherwise, and what is doubtful
+    QList<CXddRemark> mDoubts;    ///< What is wrong with it: findings of the checker, with their rules
 };
 
 #endif

@@ -81,7 +81,7 @@ bool openNodes(const SRequest& request, QList<CXddNode>& nodes)
         const CXddDocument document = openDescription(node.fileName);
         ok = ok && document.isOpen();
         if (document.isOpen()) {
-            const unsigned int stated = CXddEdsWriter::commissioning(document).mNodeId;
+            const unsigned int stated = document.device().mCommissioning.mNodeId;
             nodes << CXddNode(document, node.nodeId != 0 ? node.nodeId : stated);
         }
     }

@@ -35,7 +35,7 @@ void reportLosses(const SCopyRequest& request, const QString& fileName, const CX
 
 CXddCommissioning commissioning(const CXddDocument& document, const CXddCommissioning& given)
 {
-    CXddCommissioning node = CXddEdsWriter::commissioning(document);
+    CXddCommissioning node = document.device().mCommissioning;
     node.mNodeId = given.mNodeId != 0 ? given.mNodeId : node.mNodeId;
     node.mNodeName = given.mNodeName.isEmpty() ? node.mNodeName : given.mNodeName;
     node.mBaudrate = given.mBaudrate != CNetworkCanOpenProfile::BAUD_INVALID ? given.mBaudrate : node.mBaudrate;

@@ -9,6 +9,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <array>
+
 namespace
 {
 QString key(const char* name)
@@ -98,36 +100,27 @@ QJsonValue toJson(const CXddEntryTexts& texts)
 }
 
 // What objects and sub-objects have in common. Their index has a key of its own name.
-QJsonObject entryJson(
-    const char* indexKey, const CCanOpenSubObject& entry, const QString& address, const CXddEntryTexts& texts)
+QJsonObject entryJson(const CXddEntry& entry, CShownTexts& texts)
 {
+    const QString access = entry.accessText();
+    const QString mapping = entry.mappingText();
     return {
-        {key("address"), address},
-        {key(indexKey), toJson(entry.mIndex)},
+        {key("address"), entry.address()},
+        {key(entry.mSubIndex ? "subIndex" : "index"), toJson(entry.mSubIndex.value_or(entry.mIndex))},
         {key("name"), entry.mName},
-        {key("objectType"), entry.mObjectType},
-        {key("dataType"), entry.mDataType},
-        {key("lowLimit"), entry.mLowLimit},
-        {key("highLimit"), entry.mHighLimit},
-        {key("accessType"), orNull(
-                                CCanOpenSubObject::accessTypeAsStr(entry.mAccessType),
-                                entry.mAccessType != CCanOpenSubObject::OBJ_ACCESS_INVALID)},
-        {key("defaultValue"), entry.mDefaultValue},
-        {key("actualValue"), entry.mActualValue},
+        {key("objectType"), toJson(entry.mObjectCode)},
+        {key("dataType"), toJson(entry.mDataType)},
+        {key("lowLimit"), entry.mLowLimit.mText},
+        {key("highLimit"), entry.mHighLimit.mText},
+        {key("accessType"), orNull(access, !access.isEmpty())},
+        {key("defaultValue"), entry.mDefaultValue.mText},
+        {key("actualValue"), entry.mActualValue.mText},
         {key("denotation"), entry.mDenotation},
-        {key("PDOmapping"), orNull(
-                                CCanOpenSubObject::pdoMappingAsStr(entry.mPdoMapping),
-                                entry.mPdoMapping != CCanOpenSubObject::OBJ_MAP_INVALID)},
+        {key("PDOmapping"), orNull(mapping, !mapping.isEmpty())},
         {key("objFlags"), toJson(entry.mObjFlags)},
         {key("uniqueIDRef"), entry.mUniqueIdRef},
-        {key("texts"), toJson(texts)},
+        {key("texts"), toJson(texts.of(entry))},
     };
-}
-
-QJsonObject subObjectJson(unsigned int index, const CCanOpenSubObject& subObject, CShownTexts& texts)
-{
-    return entryJson(
-        "subIndex", subObject, CCanOpenNames::entry(index, subObject.mIndex), texts.of(index, subObject.mIndex));
 }
 
 QJsonObject toJson(const CXddRemark& remark);
@@ -141,26 +134,17 @@ template <typename Item> QJsonArray toJson(const QList<Item>& items)
     return array;
 }
 
-QJsonObject objectJson(const CCanOpenObject& object, CShownTexts& texts)
+// An object with its sub-objects.
+QJsonObject objectJson(const SShownDescription& description, int object, CShownTexts& texts)
 {
-    QJsonObject json = entryJson("index", object, CCanOpenNames::entry(object.mIndex), texts.of(object.mIndex));
+    QJsonObject json = entryJson(description.entries[object], texts);
     QJsonArray subObjects;
-    for (const CCanOpenSubObject& subObject : object.mSubObjects) {
-        subObjects.append(subObjectJson(object.mIndex, subObject, texts));
+    for (int number = object + 1; number < description.endOf(object); ++number) {
+        subObjects.append(entryJson(description.entries[number], texts));
     }
-    json[key("subNumber")] = object.mSubNumber;
+    json[key("subNumber")] = toJson(description.entries[object].mSubNumber.value_or(0));
     json[key("subObjects")] = subObjects;
     return json;
-}
-
-QJsonValue toJson(const CWriteProtectString& value)
-{
-    return QJsonObject{{key("value"), value.mValue}, {key("readOnly"), value.mReadOnly}};
-}
-
-QJsonValue toJson(const CWriteProtectGLabels& value)
-{
-    return QJsonObject{{key("labels"), toJson<CGLabel>(value.mLabels)}, {key("readOnly"), value.mReadOnly}};
 }
 
 QJsonObject toJson(const CProfileHeader& header)
@@ -184,10 +168,32 @@ QJsonObject toJson(const CProfileHeader& header)
     };
 }
 
-// The header and the file attributes, which both profiles have.
-template <typename Profile> QJsonObject commonPart(const Profile& profile)
+// An item of an identity: its key, whether it has labels, and whether it is read-only where the file does not say.
+struct SItem
 {
-    return {
+    const char* name;
+    bool hasLabels;
+    bool isReadOnly;
+};
+constexpr std::array DEVICE_ITEMS = {
+    SItem{"vendorName", false, true},    SItem{"vendorID", false, true},
+    SItem{"vendorText", true, true},     SItem{"deviceFamily", true, true},
+    SItem{"productFamily", false, true}, SItem{"productName", false, false},
+    SItem{"productID", false, true},     SItem{"productText", true, true},
+    SItem{"orderNumber", false, true},   SItem{"specificationRevision", false, true},
+    SItem{"instanceName", false, false},
+};
+constexpr std::array NETWORK_ITEMS = {
+    SItem{"vendorID", false, true},
+    SItem{"deviceFamily", true, true},
+    SItem{"productID", false, true},
+    SItem{"specificationRevision", false, true},
+};
+
+// Header, file attributes and identity, which both profiles have.
+template <typename Items> QJsonObject toJson(const CXddProfile& profile, const Items& items)
+{
+    QJsonObject object = {
         {key("ProfileHeader"), toJson(profile.mHeader)},
         {key("fileCreationDate"), toJson(profile.mFileCreationDate)},
         {key("fileCreationTime"), toJson(profile.mFileCreationTime)},
@@ -197,51 +203,82 @@ template <typename Profile> QJsonObject commonPart(const Profile& profile)
         {key("fileModifiedBy"), profile.mFileModifiedBy},
         {key("fileName"), profile.mFileName},
         {key("fileVersion"), profile.mFileVersion},
+        {key("versions"), toJson(profile.mVersions)},
+        {key("buildDate"), toJson(profile.mBuildDate)},
+    };
+    for (const SItem& item : items) {
+        CXddIdentityText stated;
+        stated.mIsReadOnly = item.isReadOnly;
+        for (const CXddIdentityText& one : profile.mIdentity) {
+            stated = one.mName == key(item.name) ? one : stated;
+        }
+        object[key(item.name)] = QJsonObject{
+            item.hasLabels ? qMakePair(key("labels"), QJsonValue(toJson<CGLabel>(stated.mLabels)))
+                           : qMakePair(key("value"), QJsonValue(stated.mText)),
+            {key("readOnly"), stated.mIsReadOnly}};
+    }
+    return object;
+}
+
+QJsonValue toJson(const std::optional<unsigned int>& number)
+{
+    return orNull(number.value_or(0), number.has_value());
+}
+
+QJsonObject toJson(const QList<CXddFeature>& features)
+{
+    QJsonObject object;
+    for (const CXddFeature& feature : features) {
+        object[feature.mName] = feature.mText;
+    }
+    return object;
+}
+
+QJsonObject toJson(const CXddCommissioning& commissioning)
+{
+    return {
+        {key("nodeID"), orNull(commissioning.mNodeId, commissioning.mNodeId != 0)},
+        {key("nodeName"), commissioning.mNodeName},
+        {key("actualBaudRate"), toJson(commissioning.mBaudrate)},
+        {key("networkNumber"), orNull(commissioning.mNetworkNumber, commissioning.mNetworkNumber != 0)},
+        {key("networkName"), commissioning.mNetworkName},
+        {key("CANopenManager"), commissioning.mIsManager ? QJsonValue(*commissioning.mIsManager) : QJsonValue()},
     };
 }
 
-QJsonObject toJson(const CDeviceProfile& device)
+QJsonObject deviceJson(const CXddDevice& device)
 {
-    QJsonObject object = commonPart(device);
-    object[key("vendorName")] = toJson(device.mVendorName);
-    object[key("vendorID")] = toJson(device.mVendorId);
-    object[key("vendorText")] = toJson(device.mVendorText);
-    object[key("deviceFamily")] = toJson(device.mDeviceFamily);
-    object[key("productFamily")] = toJson(device.mProductFamily);
-    object[key("productName")] = toJson(device.mProductName);
-    object[key("productID")] = toJson(device.mProductId);
-    object[key("productText")] = toJson(device.mProductText);
-    object[key("orderNumber")] = toJson(device.mOrderNumber);
-    object[key("versions")] = toJson(device.mVersions);
-    object[key("buildDate")] = toJson(device.mBuildDate);
-    object[key("specificationRevision")] = toJson(device.mSpecificationRevision);
-    object[key("instanceName")] = toJson(device.mInstanceName);
+    QJsonObject object = toJson(device.mDeviceProfile, DEVICE_ITEMS);
     object[key("category")] = toJson<CGLabel>(device.mCategory);
-    object[key("characteristicName")] = toJson<CGLabel>(device.mCharacteristic.mCharacteristicName);
-    object[key("characteristicContent")] = toJson<CGLabel>(device.mCharacteristic.mCharacteristicContent);
+    object[key("characteristicName")] = toJson<CGLabel>(device.mCharacteristicName);
+    object[key("characteristicContent")] = toJson<CGLabel>(device.mCharacteristicContent);
     return object;
 }
 
-QJsonObject toJson(const CNetworkCanOpenProfile& network, CShownTexts& texts)
+QJsonObject networkJson(const SShownDescription& description, CShownTexts& texts)
 {
+    const CXddDevice& device = description.device;
     QJsonArray objects;
-    for (const CCanOpenObject& object : network.mObjects) {
-        objects.append(objectJson(object, texts));
+    for (int object = 0; object < description.entries.size(); object = description.endOf(object)) {
+        objects.append(objectJson(description, object, texts));
     }
-    QJsonObject object = commonPart(network);
-    object[key("vendorID")] = toJson(network.mVendorId);
-    object[key("deviceFamily")] = toJson(network.mDeviceFamily);
-    object[key("productID")] = toJson(network.mProductId);
-    object[key("versions")] = toJson(network.mVersions);
-    object[key("buildDate")] = toJson(network.mBuildDate);
-    object[key("specificationRevision")] = toJson(network.mSpecificationRevision);
-    object[key("mandatoryObjects")] = toJson(network.mMandatoryObjects);
-    object[key("optionalObjects")] = toJson(network.mOptionalObjects);
-    object[key("manufacturerObjects")] = toJson(network.mManufacturerObjects);
-    object[key("objects")] = objects;
-    object[key("baudRate")] = toJson(network.mBaudRate);
-    object[key("supportedBaudRates")] = toJson(network.mSupportedBaudRates);
-    return object;
+    QJsonArray dummies;
+    for (const unsigned int type : device.mDummyTypes) {
+        dummies.append(toJson(type));
+    }
+    QJsonObject json = toJson(device.mNetworkProfile, NETWORK_ITEMS);
+    json[key("mandatoryObjects")] = toJson(device.mMandatoryObjects.mStated);
+    json[key("optionalObjects")] = toJson(device.mOptionalObjects.mStated);
+    json[key("manufacturerObjects")] = toJson(device.mManufacturerObjects.mStated);
+    json[key("objects")] = objects;
+    json[key("dummyTypes")] = device.mStatesDummies ? QJsonValue(dummies) : QJsonValue();
+    json[key("baudRate")] = toJson(device.mDefaultBitRate);
+    json[key("supportedBaudRates")] = toJson(device.mBitRates);
+    json[key("generalFeatures")] = toJson(device.mGeneralFeatures);
+    json[key("masterFeatures")] = toJson(device.mMasterFeatures);
+    json[key("deviceCommissioning")] =
+        device.mIsCommissioned ? QJsonValue(toJson(device.mCommissioning)) : QJsonValue();
+    return json;
 }
 
 // How the bits of a field are to be read.
@@ -284,15 +321,23 @@ QJsonObject fieldJson(const CXddPdoField& field, CShownTexts& texts)
 
 QJsonObject toJson(const CXddRemark& remark)
 {
-    return {{key("line"), remark.mLine}, {key("entry"), remark.entry()}, {key("message"), remark.text()}};
+    return {
+        {key("line"), remark.mLine},
+        {key("entry"), remark.entry()},
+        {key("rule"), remark.mRule},
+        {key("severity"), CXddRemark::severityAsStr(remark.mSeverity)},
+        {key("message"), remark.text()}};
 }
 
 QJsonObject pdoJson(const CXddPdo& pdo, CShownTexts& texts)
 {
-    QJsonArray fields;
-    for (const CXddPdoField& field : pdo.mFields) {
-        fields.append(fieldJson(field, texts));
-    }
+    const auto fieldsJson = [&texts](const QList<CXddPdoField>& fields) {
+        QJsonArray array;
+        for (const CXddPdoField& field : fields) {
+            array.append(fieldJson(field, texts));
+        }
+        return array;
+    };
     const QString transmission = CXddPdo::transmissionAsStr(pdo.mTransmission);
     return {
         {key("name"), pdo.name()},
@@ -304,15 +349,17 @@ QJsonObject pdoJson(const CXddPdo& pdo, CShownTexts& texts)
         {key("canId"), orNull(pdo.mCanId, pdo.mCanId != 0)},
         {key("extended"), pdo.mIsExtended},
         {key("usesNodeId"), pdo.mUsesNodeId},
+        {key("rtrAllowed"), pdo.mAllowsRtr},
         {key("multiplexed"), pdo.mIsMultiplexed},
         {key("transmissionType"), orNull(pdo.mTransmissionType.value_or(0), pdo.mTransmissionType.has_value())},
         {key("transmission"), orNull(transmission, !transmission.isEmpty())},
-        {key("inhibitTimeMicroseconds"), toJson(pdo.mInhibitTime)},
+        {key("inhibitTimeMicroseconds"), QJsonValue(qint64(pdo.mInhibitTime))},
         {key("eventTimerMilliseconds"), toJson(pdo.mEventTimer)},
         {key("syncStart"), toJson(pdo.mSyncStart)},
         {key("bytes"), pdo.bytes()},
-        {key("fields"), fields},
-        {key("remarks"), toJson<CXddRemark>(pdo.mRemarks)},
+        {key("fields"), fieldsJson(pdo.mFields)},
+        {key("beyond"), fieldsJson(pdo.mBeyond)},
+        {key("remarks"), toJson<CXddRemark>(pdo.mDoubts)},
     };
 }
 
@@ -329,53 +376,43 @@ CJsonReport::CJsonReport(COutput& output)
 
 void CJsonReport::showDescription(const SShownDescription& description)
 {
-    QJsonObject device = toJson(description.reader->deviceProfile());
     CShownTexts texts(description.document);
-    QJsonObject network = toJson(description.reader->networkProfile(), texts);
-    // What the library or the normaliser supplied is not stated by the file.
-    const auto clear = [&](QJsonObject& object, const char* name, CXddDocument::EItem item, const QJsonValue& nothing) {
-        if (!description.document.states(item)) {
-            object[key(name)] = nothing;
-        }
-    };
-    clear(device, "fileCreationDate", CXddDocument::ITEM_DEVICE_CREATION_DATE, QJsonValue());
-    clear(network, "fileCreationDate", CXddDocument::ITEM_NETWORK_CREATION_DATE, QJsonValue());
-    clear(network, "mandatoryObjects", CXddDocument::ITEM_MANDATORY_OBJECTS, QJsonValue());
-    clear(network, "optionalObjects", CXddDocument::ITEM_OPTIONAL_OBJECTS, QJsonValue());
-    clear(network, "manufacturerObjects", CXddDocument::ITEM_MANUFACTURER_OBJECTS, QJsonValue());
-    clear(network, "baudRate", CXddDocument::ITEM_BAUD_RATE, QJsonValue());
-    clear(network, "supportedBaudRates", CXddDocument::ITEM_SUPPORTED_BAUD_RATES, QJsonArray());
     writeLine(
-        {{key("file"), description.fileName}, {key("deviceProfile"), device}, {key("networkProfile"), network}}, texts);
+        {{key("file"), description.fileName},
+         {key("deviceProfile"), deviceJson(description.device)},
+         {key("networkProfile"), networkJson(description, texts)},
+         {key("revisionNumber"), toJson(description.device.mRevisionNumber)}},
+        texts);
 }
 
-void CJsonReport::showEntries(const SShownDescription& description, const QVector<SSelectedEntry>& entries)
+void CJsonReport::showEntries(const SShownDescription& description, const QVector<int>& selected)
 {
     CShownTexts texts(description.document);
-    for (const SSelectedEntry& entry : entries) {
+    for (const int number : selected) {
+        const CXddEntry& entry = description.entries[number];
         QJsonObject json{{key("file"), description.fileName}};
-        if (entry.subObject) {
-            json[key("index")] = toJson(entry.object.mIndex);
-            json[key("subObject")] = subObjectJson(entry.object.mIndex, *entry.subObject, texts);
+        if (entry.mSubIndex) {
+            json[key("index")] = toJson(entry.mIndex);
+            json[key("subObject")] = entryJson(entry, texts);
         } else {
-            json[key("object")] = objectJson(entry.object, texts);
+            json[key("object")] = objectJson(description, number, texts);
         }
         writeLine(json, texts);
     }
 }
 
-void CJsonReport::showPdos(const SShownDescription& description)
+void CJsonReport::showPdos(const SShownDescription& description, const QList<CXddPdo>& pdos, unsigned int nodeId)
 {
     CShownTexts texts(description.document);
-    QJsonArray pdos;
-    for (const CXddPdo& pdo : description.pdos) {
-        pdos.append(pdoJson(pdo, texts));
+    QJsonArray array;
+    for (const CXddPdo& pdo : pdos) {
+        array.append(pdoJson(pdo, texts));
     }
     writeLine(
         {
             {key("file"), description.fileName},
-            {key("nodeId"), orNull(description.nodeId, description.nodeId != 0)},
-            {key("pdos"), pdos},
+            {key("nodeId"), orNull(nodeId, nodeId != 0)},
+            {key("pdos"), array},
         },
         texts);
 }

@@ -23,11 +23,11 @@ public:
     /** Shows the whole model. */
     void showDescription(const SShownDescription& description);
 
-    /** Shows objects and sub-objects, each on a line of its own. */
-    void showEntries(const SShownDescription& description, const QVector<SSelectedEntry>& entries);
+    /** Shows objects and sub-objects, by their numbers among the entries, each on a line of its own. */
+    void showEntries(const SShownDescription& description, const QVector<int>& selected);
 
-    /** Shows the PDOs. */
-    void showPdos(const SShownDescription& description);
+    /** Shows the PDOs of a node, which has the number 0 where that is not known. */
+    void showPdos(const SShownDescription& description, const QList<CXddPdo>& pdos, unsigned int nodeId);
 
 private:
     void writeLine(QJsonObject json, const CShownTexts& texts);

@@ -67,18 +67,18 @@ CPdoReport::CPdoReport(COutput& output, int width)
     , mWidth(width)
 {}
 
-void CPdoReport::show(const SShownDescription& description)
+void CPdoReport::show(const SShownDescription& description, const QList<CXddPdo>& pdos)
 {
     mOutput.writeLine(printable(description.title()));
-    for (const CXddPdo& pdo : description.pdos) {
+    for (const CXddPdo& pdo : pdos) {
         if (!pdo.mFields.isEmpty() || pdo.mIsMultiplexed) {
             showPdo(pdo);
         }
     }
     mOutput.writeLine();
-    showEmpty(description.pdos, tr("Enabled, maps nothing"), true);
-    showEmpty(description.pdos, tr("Disabled, maps nothing"), false);
-    if (description.pdos.isEmpty()) {
+    showEmpty(pdos, tr("Enabled, maps nothing"), true);
+    showEmpty(pdos, tr("Disabled, maps nothing"), false);
+    if (pdos.isEmpty()) {
         mOutput.writeLine(tr("There are no PDOs."));
     }
 }
@@ -111,7 +111,7 @@ void CPdoReport::showTimes(const CXddPdo& pdo)
             mOutput, INDENT, tr("Transmission type"),
             tr("%1, %2").arg(QString::number(*pdo.mTransmissionType), pdo.transmissionText()));
     }
-    writeField(mOutput, INDENT, tr("Inhibit time"), timeOf(pdo.mInhibitTime / microseconds));
+    writeField(mOutput, INDENT, tr("Inhibit time"), timeOf(double(pdo.mInhibitTime) / microseconds));
     writeField(mOutput, INDENT, pdo.mIsTransmit ? tr("Event timer") : tr("Deadline"), timeOf(pdo.mEventTimer));
     writeField(
         mOutput, INDENT, tr("SYNC start value"), pdo.mSyncStart == 0 ? QString() : QString::number(pdo.mSyncStart));

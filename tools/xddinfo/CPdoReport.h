@@ -18,7 +18,7 @@ public:
 
     /** Shows each PDO that maps something with its CAN-ID, its times and a picture of its bytes, then which map
      * nothing. */
-    void show(const SShownDescription& description);
+    void show(const SShownDescription& description, const QList<CXddPdo>& pdos);
 
 private:
     void showPdo(const CXddPdo& pdo);

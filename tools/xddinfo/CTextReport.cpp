@@ -5,7 +5,7 @@
 #include "Catalogue.h"
 #include "Messages.h"
 
-#include <CXddFacts.h>
+#include <CCanOpenNames.h>
 
 #include <algorithm>
 
@@ -13,13 +13,6 @@ namespace
 {
 // As many PDOs of one direction are shown with what they map; a device can have 512.
 constexpr int MAX_SHOWN_PDOS = 16;
-
-QString joined(const QStringList& texts, const QString& separator)
-{
-    QStringList stated = texts;
-    stated.removeAll(QString());
-    return stated.join(separator);
-}
 
 // A bit rate in kbit/s.
 QString rateShown(CNetworkCanOpenProfile::EBaudrate rate)
@@ -34,7 +27,7 @@ QString rateShown(CNetworkCanOpenProfile::EBaudrate rate)
     }
 }
 
-CTable dictionaryTable(const QMap<unsigned int, CCanOpenObject>& objects, bool isShort)
+CTable dictionaryTable(const QList<CXddEntry>& entries, bool isShort)
 {
     CTable table({
         {CTextReport::tr("Index")},
@@ -47,21 +40,14 @@ CTable dictionaryTable(const QMap<unsigned int, CCanOpenObject>& objects, bool i
         {CTextReport::tr("Low"), 8, true},
         {CTextReport::tr("High"), 8, true},
     });
-    const auto addRow = [&](const QString& address, const QString& indent, const CCanOpenSubObject& entry) {
+    for (const CXddEntry& entry : entries) {
         table.addRow(
-            {address, indent + printable(entry.mName), CCanOpenNames::type(entry, isShort),
-             CCanOpenNames::access(entry), CCanOpenNames::mapping(entry), printable(entry.mDefaultValue),
-             printable(entry.mActualValue), printable(entry.mLowLimit), printable(entry.mHighLimit)});
-    };
-    for (const CCanOpenObject& object : objects) {
-        addRow(CCanOpenNames::entry(object.mIndex), QString(), object);
-        for (const CCanOpenSubObject& subObject : object.mSubObjects) {
-            addRow(CCanOpenNames::entry(object.mIndex, subObject.mIndex), QStringLiteral("  "), subObject);
-        }
+            {entry.address(), (entry.mSubIndex ? QStringLiteral("  ") : QString()) + printable(entry.mName),
+             entry.typeText(isShort), entry.accessText(), entry.mappingText(), printable(entry.mDefaultValue.mText),
+             printable(entry.mActualValue.mText), printable(entry.mLowLimit.mText), printable(entry.mHighLimit.mText)});
     }
     return table;
 }
-
 } // namespace
 
 CTextReport::CTextReport(COutput& output, int width)
@@ -71,58 +57,41 @@ CTextReport::CTextReport(COutput& output, int width)
 
 void CTextReport::showDescription(const SShownDescription& description)
 {
-    const CNetworkCanOpenProfile& network = description.reader->networkProfile();
+    const CXddDevice& device = description.device;
+    const QList<CXddPdo> pdos = description.document.pdos();
     showSource(description);
-    showFacts(CXddFacts::identity(*description.reader, userLanguage()));
-    const QList<CXddFact> files = CXddFacts::files(*description.reader, description.document);
+    showFacts(description.facts);
+    const QList<CXddFact> files = description.document.fileFacts();
     if (!files.isEmpty()) {
         mOutput.writeLine();
         showFacts(files);
     }
     mOutput.writeLine();
-    showBitRates(description);
-    showPdos(tr("Receive PDOs"), description.pdos, false);
-    showPdos(tr("Transmit PDOs"), description.pdos, true);
+    showBitRates(device);
+    showPdos(tr("Receive PDOs"), pdos, false);
+    showPdos(tr("Transmit PDOs"), pdos, true);
     mOutput.writeLine();
-    using Kind = CCanOpenNames::EObjectKind;
-    const auto isStated = [&description](CXddDocument::EItem item) {
-        return description.document.states(item);
-    };
-    showCount(
-        tr("Mandatory objects"), isStated(CXddDocument::ITEM_MANDATORY_OBJECTS), network.mMandatoryObjects,
-        Kind::Mandatory, network.mObjects);
-    showCount(
-        tr("Optional objects"), isStated(CXddDocument::ITEM_OPTIONAL_OBJECTS), network.mOptionalObjects, Kind::Optional,
-        network.mObjects);
-    showCount(
-        tr("Manufacturer objects"), isStated(CXddDocument::ITEM_MANUFACTURER_OBJECTS), network.mManufacturerObjects,
-        Kind::Manufacturer, network.mObjects);
+    showCount(tr("Mandatory objects"), device.mMandatoryObjects);
+    showCount(tr("Optional objects"), device.mOptionalObjects);
+    showCount(tr("Manufacturer objects"), device.mManufacturerObjects);
     mOutput.writeLine();
-    showDictionary(network.mObjects);
+    showDictionary(description.entries);
 }
 
-void CTextReport::showEntries(const SShownDescription& description, const QVector<SSelectedEntry>& entries)
+void CTextReport::showEntries(const SShownDescription& description, const QVector<int>& selected)
 {
     showSource(description);
     CShownTexts texts(description.document);
     bool isFirst = true;
-    for (const SSelectedEntry& entry : entries) {
+    for (const int number : selected) {
         if (!isFirst) {
             mOutput.writeLine();
         }
         isFirst = false;
-        if (entry.subObject) {
-            showSubObject(entry.object, *entry.subObject, QString(), texts);
-            continue;
-        }
-        mOutput.writeLine(tr("Object %1").arg(CCanOpenNames::entry(entry.object.mIndex)));
-        showFields(entry.object, QStringLiteral("  "));
-        showTexts(texts.of(entry.object.mIndex), QStringLiteral("  "));
-        showField(
-            QStringLiteral("  "), tr("Stated sub-objects"),
-            entry.object.mSubNumber == 0 ? QString() : QString::number(entry.object.mSubNumber));
-        for (const CCanOpenSubObject& subObject : entry.object.mSubObjects) {
-            showSubObject(entry.object, subObject, QStringLiteral("  "), texts);
+        showEntry(description.entries[number], QString(), texts);
+        const int end = description.entries[number].mSubIndex ? number : description.endOf(number);
+        for (int subObject = number + 1; subObject < end; ++subObject) {
+            showEntry(description.entries[subObject], QStringLiteral("  "), texts);
         }
     }
     if (texts.areLeftOut()) {
@@ -144,21 +113,18 @@ void CTextReport::showFacts(const QList<CXddFact>& facts)
     }
 }
 
-void CTextReport::showBitRates(const SShownDescription& description)
+void CTextReport::showBitRates(const CXddDevice& device)
 {
-    const CNetworkCanOpenProfile& network = description.reader->networkProfile();
-    const QString supplied = tr("%1 (not stated; the format's default)");
     QStringList supported;
-    for (const CNetworkCanOpenProfile::EBaudrate rate : network.mSupportedBaudRates) {
+    for (const CNetworkCanOpenProfile::EBaudrate rate : device.mBitRates) {
         supported << rateShown(rate);
     }
-    const QString rate = rateShown(network.mBaudRate);
+    const QString rate = rateShown(device.bitRateInForce());
+    const bool isOfFormat =
+        device.mForm == CXddDevice::FORM_XDD && device.mDefaultBitRate == CNetworkCanOpenProfile::BAUD_INVALID;
     showField(
-        QString(), tr("Default bit rate"),
-        rate.isEmpty() || description.document.states(CXddDocument::ITEM_BAUD_RATE) ? rate : supplied.arg(rate));
-    if (description.document.states(CXddDocument::ITEM_SUPPORTED_BAUD_RATES)) {
-        showField(QString(), tr("Supported bit rates"), supported.join(QLatin1String(", ")));
-    }
+        QString(), tr("Default bit rate"), isOfFormat ? tr("%1 (not stated; the format's default)").arg(rate) : rate);
+    showField(QString(), tr("Supported bit rates"), supported.join(QLatin1String(", ")));
 }
 
 void CTextReport::showPdos(const QString& name, const QList<CXddPdo>& pdos, bool isTransmit)
@@ -183,52 +149,44 @@ void CTextReport::showPdos(const QString& name, const QList<CXddPdo>& pdos, bool
     showField(QStringLiteral("  "), tr("more"), more <= 0 ? QString() : QString::number(more));
 }
 
-void CTextReport::showCount(
-    const QString& name, bool isStated, unsigned int stated, CCanOpenNames::EObjectKind kind,
-    const QMap<unsigned int, CCanOpenObject>& objects)
+void CTextReport::showCount(const QString& name, const CXddCount& count)
 {
-    int found = 0;
-    for (auto object = objects.cbegin(); object != objects.cend(); ++object) {
-        found += CCanOpenNames::objectKind(object.key()) == kind ? 1 : 0;
-    }
-    const bool agree = unsigned(found) == stated;
+    const QString found = QString::number(count.mFound);
     showField(
         QString(), name,
-        !isStated || agree ? QString::number(found)
-                           : tr("%1 (the file states %2)").arg(QString::number(found), QString::number(stated)));
+        count.mStated.value_or(count.mFound) == count.mFound
+            ? found
+            : tr("%1 (the file states %2)").arg(found, QString::number(*count.mStated)));
 }
 
 // With short names of data types where the long ones do not fit.
-void CTextReport::showDictionary(const QMap<unsigned int, CCanOpenObject>& objects)
+void CTextReport::showDictionary(const QList<CXddEntry>& entries)
 {
-    const CTable table = dictionaryTable(objects, false);
-    (table.fits(mWidth) ? table : dictionaryTable(objects, true)).write(mOutput, mWidth);
+    const CTable table = dictionaryTable(entries, false);
+    (table.fits(mWidth) ? table : dictionaryTable(entries, true)).write(mOutput, mWidth);
 }
 
-void CTextReport::showSubObject(
-    const CCanOpenObject& object, const CCanOpenSubObject& subObject, const QString& indent, CShownTexts& texts)
+void CTextReport::showEntry(const CXddEntry& entry, const QString& indent, CShownTexts& texts)
 {
-    mOutput.writeLine(indent + tr("Sub-object %1").arg(CCanOpenNames::entry(object.mIndex, subObject.mIndex)));
-    showFields(subObject, indent + QLatin1String("  "));
-    showTexts(texts.of(object.mIndex, subObject.mIndex), indent + QLatin1String("  "));
-}
-
-void CTextReport::showFields(const CCanOpenSubObject& entry, const QString& indent)
-{
-    showField(indent, tr("Name"), entry.mName);
-    showField(indent, tr("Object"), CCanOpenNames::objectCode(entry.mObjectType));
-    showField(indent, tr("Data type"), CCanOpenNames::dataType(entry.mDataType));
-    showField(indent, tr("Access"), CCanOpenNames::access(entry));
-    showField(indent, tr("PDO mapping"), CCanOpenNames::mapping(entry));
-    showField(indent, tr("Default value"), entry.mDefaultValue);
-    showField(indent, tr("Actual value"), entry.mActualValue);
-    showField(indent, tr("Low limit"), entry.mLowLimit);
-    showField(indent, tr("High limit"), entry.mHighLimit);
-    showField(indent, tr("Denotation"), entry.mDenotation);
+    const QString inner = indent + QLatin1String("  ");
+    mOutput.writeLine(indent + (entry.mSubIndex ? tr("Sub-object %1") : tr("Object %1")).arg(entry.address()));
+    showField(inner, tr("Name"), entry.mName);
+    showField(inner, tr("Object"), CCanOpenNames::objectCode(entry.mObjectCode));
+    showField(inner, tr("Data type"), CCanOpenNames::dataType(entry.mDataType));
+    showField(inner, tr("Access"), entry.accessText());
+    showField(inner, tr("PDO mapping"), entry.mappingText());
+    showField(inner, tr("Default value"), entry.mDefaultValue.mText);
+    showField(inner, tr("Actual value"), entry.mActualValue.mText);
+    showField(inner, tr("Low limit"), entry.mLowLimit.mText);
+    showField(inner, tr("High limit"), entry.mHighLimit.mText);
+    showField(inner, tr("Denotation"), entry.mDenotation);
     showField(
-        indent, tr("Flags"),
+        inner, tr("Flags"),
         entry.mObjFlags == 0 ? QString() : QStringLiteral("0x") + QString::number(entry.mObjFlags, 16).toUpper());
-    showField(indent, tr("Parameter"), entry.mUniqueIdRef);
+    showField(inner, tr("Parameter"), entry.mUniqueIdRef);
+    showTexts(texts.of(entry), inner);
+    const unsigned int stated = entry.mSubIndex ? 0 : entry.mSubNumber.value_or(0);
+    showField(inner, tr("Stated sub-objects"), stated == 0 ? QString() : QString::number(stated));
 }
 
 // What the description says of an entry for people.
@@ -238,14 +196,14 @@ void CTextReport::showTexts(const CXddEntryTexts& texts, const QString& indent)
     showField(indent, tr("Label"), CXddLabel::chosen(texts.mLabels, language));
     showField(indent, tr("Description"), CXddLabel::chosen(texts.mDescriptions, language));
     showField(
-        indent, tr("Unit"), joined({CXddLabel::chosen(texts.mUnits, language), texts.mUnitUri}, QStringLiteral(" ")));
+        indent, tr("Unit"), (CXddLabel::chosen(texts.mUnits, language) + QLatin1Char(' ') + texts.mUnitUri).trimmed());
     showField(indent, tr("Multiplier"), texts.mMultiplier);
     showField(indent, tr("Offset"), texts.mOffset);
     for (const CXddAllowedValue& value : texts.mAllowedValues) {
         const QString range = value.isSingle() ? value.mLow : value.mLow + QLatin1String("..") + value.mHigh;
         showField(
             indent, tr("Allowed value"),
-            joined({range, CXddLabel::chosen(value.mLabels, language)}, QStringLiteral("  ")));
+            (range + QLatin1String("  ") + CXddLabel::chosen(value.mLabels, language)).trimmed());
     }
 }
 

@@ -3,7 +3,6 @@
 
 #include "ShownDescription.h"
 
-#include <CCanOpenNames.h>
 #include <CXddFact.h>
 
 #include <QCoreApplication>
@@ -22,21 +21,17 @@ public:
     /** Shows the identity, the file attributes, the bit rates, the PDOs and the object dictionary. */
     void showDescription(const SShownDescription& description);
 
-    /** Shows every field of objects with their sub-objects, or of sub-objects. */
-    void showEntries(const SShownDescription& description, const QVector<SSelectedEntry>& entries);
+    /** Shows every field of objects with their sub-objects, or of sub-objects, by their numbers among the entries. */
+    void showEntries(const SShownDescription& description, const QVector<int>& selected);
 
 private:
     void showSource(const SShownDescription& description);
     void showFacts(const QList<CXddFact>& facts);
-    void showBitRates(const SShownDescription& description);
+    void showBitRates(const CXddDevice& device);
     void showPdos(const QString& name, const QList<CXddPdo>& pdos, bool isTransmit);
-    void showCount(
-        const QString& name, bool isStated, unsigned int stated, CCanOpenNames::EObjectKind kind,
-        const QMap<unsigned int, CCanOpenObject>& objects);
-    void showDictionary(const QMap<unsigned int, CCanOpenObject>& objects);
-    void showSubObject(
-        const CCanOpenObject& object, const CCanOpenSubObject& subObject, const QString& indent, CShownTexts& texts);
-    void showFields(const CCanOpenSubObject& entry, const QString& indent);
+    void showCount(const QString& name, const CXddCount& count);
+    void showDictionary(const QList<CXddEntry>& entries);
+    void showEntry(const CXddEntry& entry, const QString& indent, CShownTexts& texts);
     void showTexts(const CXddEntryTexts& texts, const QString& indent);
     void showField(const QString& indent, const QString& name, const QString& value);
 

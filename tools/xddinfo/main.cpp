@@ -7,8 +7,8 @@
 #include "Messages.h"
 #include "ObjectSelection.h"
 
-#include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
+#include <ICIso15745.h>
 
 #include <QCoreApplication>
 
@@ -52,23 +52,18 @@ int terminalWidth()
     return isatty(STDOUT_FILENO) != 0 && ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
 }
 
-// The entries of a selection; none when there is no such object or sub-object.
-QVector<SSelectedEntry> entriesOf(const SObjectSelection& selection, const QMap<unsigned int, CCanOpenObject>& objects)
+// The entries of a selection, by their numbers; none when there is no such object or sub-object.
+QVector<int> entriesOf(const SObjectSelection& selection, const QList<CXddEntry>& entries)
 {
-    QVector<SSelectedEntry> entries;
-    for (auto object = objects.lowerBound(selection.first); object != objects.end() && object.key() <= selection.last;
-         ++object) {
-        if (!selection.subIndex) {
-            entries << SSelectedEntry{*object, std::nullopt};
-            continue;
-        }
-        for (const CCanOpenSubObject& subObject : object->mSubObjects) {
-            if (subObject.mIndex == *selection.subIndex) {
-                entries << SSelectedEntry{*object, subObject};
-            }
+    QVector<int> numbers;
+    for (int number = 0; number < entries.size(); ++number) {
+        const CXddEntry& entry = entries[number];
+        if (entry.mIndex >= selection.first && entry.mIndex <= selection.last
+            && entry.mSubIndex == selection.subIndex) {
+            numbers << number;
         }
     }
-    return entries;
+    return numbers;
 }
 
 bool isIn(const QList<CXddLabel>& labels, const QString& text)
@@ -79,36 +74,28 @@ bool isIn(const QList<CXddLabel>& labels, const QString& text)
 }
 
 // The objects whose name, label, description or unit has a text, and the sub-objects of others.
-QVector<SSelectedEntry> entriesWith(const QString& text, const SShownDescription& description)
+QVector<int> entriesWith(const QString& text, const SShownDescription& description)
 {
-    CXddTexts allTexts(description.document);
-    const auto isFound = [&](const QString& name, unsigned int index, std::optional<unsigned int> subIndex) {
-        const CXddEntryTexts texts = allTexts.of(index, subIndex);
-        return name.contains(text, Qt::CaseInsensitive) || isIn(texts.mLabels, text) || isIn(texts.mDescriptions, text)
-               || isIn(texts.mUnits, text);
-    };
-    QVector<SSelectedEntry> entries;
-    for (const CCanOpenObject& object : description.reader->getObjList()) {
-        if (isFound(object.mName, object.mIndex, std::nullopt)) {
-            entries << SSelectedEntry{object, std::nullopt};
-            continue;
-        }
-        for (const CCanOpenSubObject& subObject : object.mSubObjects) {
-            if (isFound(subObject.mName, object.mIndex, subObject.mIndex)) {
-                entries << SSelectedEntry{object, subObject};
-            }
+    QVector<int> numbers;
+    for (int number = 0; number < description.entries.size(); ++number) {
+        const CXddEntry& entry = description.entries[number];
+        const CXddEntryTexts texts = description.document.texts(entry.mIndex, entry.mSubIndex);
+        if (entry.mName.contains(text, Qt::CaseInsensitive) || isIn(texts.mLabels, text)
+            || isIn(texts.mDescriptions, text) || isIn(texts.mUnits, text)) {
+            numbers << number;
+            number = entry.mSubIndex ? number : description.endOf(number) - 1;
         }
     }
-    return entries;
+    return numbers;
 }
 
 // Shows the selected entries. Returns false when there are none for one of the selections.
 bool showSelections(const SRequest& request, const SShownDescription& description, COutput& output)
 {
     bool ok = true;
-    QVector<SSelectedEntry> entries;
+    QVector<int> entries;
     for (const SObjectSelection& selection : request.selections) {
-        const QVector<SSelectedEntry> selected = entriesOf(selection, description.reader->getObjList());
+        const QVector<int> selected = entriesOf(selection, description.entries);
         if (selected.isEmpty()) {
             complain(QCoreApplication::translate("xddinfo", "%1: There is no object %2.")
                          .arg(description.fileName, selection.text()));
@@ -117,7 +104,7 @@ bool showSelections(const SRequest& request, const SShownDescription& descriptio
         entries += selected;
     }
     for (const QString& text : request.searched) {
-        const QVector<SSelectedEntry> found = entriesWith(text, description);
+        const QVector<int> found = entriesWith(text, description);
         if (found.isEmpty()) {
             complain(QCoreApplication::translate("xddinfo", "%1: No entry has \"%2\" in its texts.")
                          .arg(description.fileName, text));
@@ -132,20 +119,24 @@ bool showSelections(const SRequest& request, const SShownDescription& descriptio
     return ok;
 }
 
-// Shows the PDOs, and says what was left out of them and what is doubtful.
+// Shows the PDOs, and says what is wrong with them.
 void showPdos(const SRequest& request, const SShownDescription& description, COutput& output)
 {
-    request.json ? CJsonReport(output).showPdos(description) : CPdoReport(output, terminalWidth()).show(description);
-    QList<CXddRemark> remarks;
-    for (const CXddPdo& pdo : description.pdos) {
-        remarks += pdo.mRemarks;
+    const QList<CXddPdo> pdos = description.document.pdos(request.nodeId);
+    const unsigned int nodeId = request.nodeId != 0 ? request.nodeId : description.device.mCommissioning.mNodeId;
+    request.json ? CJsonReport(output).showPdos(description, pdos, nodeId)
+                 : CPdoReport(output, terminalWidth()).show(description, pdos);
+    QList<CXddRemark> doubts;
+    for (const CXddPdo& pdo : pdos) {
+        doubts += pdo.mDoubts;
     }
     output.flush();
-    reportRemarks(description.fileName, remarks);
+    reportRemarks(description.fileName, doubts);
 }
 
-bool show(const SRequest& request, const SShownDescription& description, COutput& output)
+bool show(const SRequest& request, SShownDescription description, COutput& output)
 {
+    description.isSample = request.isSample;
     if (!request.selections.isEmpty() || !request.searched.isEmpty()) {
         return showSelections(request, description, output);
     }
@@ -158,26 +149,20 @@ bool show(const SRequest& request, const SShownDescription& description, COutput
     return true;
 }
 
-// Says what of a description is not shown, or shown in another way than a strict reader would.
-void reportRead(const QString& fileName, const QList<CXddRemark>& remarks)
+// Says what of a description is not shown, or shown in another way than it is written.
+void reportRead(const CXddDocument& document)
 {
-    QList<CXddRemark> left;
+    QList<CXddRemark> left = document.leftOut();
     int interpreted = 0;
-    for (const CXddRemark& remark : remarks) {
-        if (remark.mKind != CXddRemark::KIND_CHANGE) {
-            left << remark;
-        } else if (remark.mSeverity >= CXddRemark::SEVERITY_WARNING) {
-            ++interpreted;
-        }
+    for (const CXddRemark& remark : document.remarks()) {
+        remark.mKind == CXddRemark::KIND_LEFT ? left.append(remark) : void(++interpreted);
     }
-    reportRemarks(fileName, left);
+    reportRemarks(document.name(), left);
     if (interpreted > 0) {
         complain(QCoreApplication::translate(
-                     "xddinfo",
-                     "%1: %n place(s) not written as the format does, read as meant; 'xddnormalize --dry-run' lists "
-                     "them.",
+                     "xddinfo", "%1: %n place(s) not written as the format does, read as meant; xddcheck lists them.",
                      nullptr, interpreted)
-                     .arg(fileName));
+                     .arg(document.name()));
     }
 }
 
@@ -195,36 +180,19 @@ bool loadStrict(const CXddDocument& document, ICIso15745& reader)
     return false;
 }
 
-bool loadNormalized(const CXddDocument& document, ICIso15745& reader)
-{
-    QList<CXddRemark> remarks;
-    CXddRemark failure;
-    if (!CXddNormalizer::load(document, reader, remarks, failure)) {
-        complainAbout(document.name(), failure);
-        return false;
-    }
-    reportRead(document.name(), remarks);
-    return true;
-}
-
 bool showFile(const SRequest& request, const QString& fileName, COutput& output)
 {
     const CXddDocument document = readDescription(fileName);
-    const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
-    if (!(request.strict ? loadStrict(document, *reader) : loadNormalized(document, *reader))) {
+    if (request.strict) {
+        const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
+        return loadStrict(document, *reader) && show(request, {fileName, document, *reader}, output);
+    }
+    if (!document.isOpen()) {
+        complainAbout(fileName, document.failure());
         return false;
     }
-    SShownDescription description{fileName, request.isSample, document, reader.get(), {}, request.nodeId};
-    if (description.nodeId == 0 && document.isOpen()) {
-        description.nodeId = CXddEdsWriter::commissioning(document).mNodeId;
-    }
-    const bool arePdosShown =
-        request.pdos || (!request.json && request.selections.isEmpty() && request.searched.isEmpty());
-    if (arePdosShown) {
-        description.pdos = request.strict ? CXddPdos::of(reader->getObjList(), description.nodeId)
-                                          : CXddPdos::of(document, description.nodeId);
-    }
-    return show(request, description, output);
+    reportRead(document);
+    return show(request, {fileName, document}, output);
 }
 
 int showAll(const SRequest& request)

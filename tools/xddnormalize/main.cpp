@@ -19,7 +19,7 @@ ECopied normalizeFile(const SCopyRequest& request, const QString& fileName)
     if (!document.isOpen()) {
         return ECopied::No;
     }
-    if (request.destination.inPlace && document.form() != CXddDocument::FORM_XDD) {
+    if (request.destination.inPlace && document.form() != CXddDevice::FORM_XDD) {
         complain(QCoreApplication::translate(
                      "xddnormalize",
                      "%1: --in-place does not make an XDD of an EDS. --output writes it to a file of its own, and "

@@ -75,9 +75,10 @@ void add(std::vector<CXmlElement>& elements, const CXmlElement& element)
 }
 } // namespace
 
-CDescription::CDescription(const CXmlTree& tree, EForm form)
+CDescription::CDescription(const CXmlTree& tree, CXddDevice::EForm form, SEdsExtras extras)
     : mTree(tree)
     , mForm(form)
+    , mExtras(std::move(extras))
     , mReferences(tree)
     , mProfiles(profilesOf(tree.root()))
     , mDictionary(objectLists(), mReferences)
@@ -103,7 +104,7 @@ QLatin1String CDescription::word(QLatin1String name) const
         std::find_if(KEYS.begin(), KEYS.end(), [name](const std::pair<QLatin1String, QLatin1String>& row) {
             return row.first == name;
         });
-    return mForm == EForm::Xdd || found == KEYS.end() ? name : found->second;
+    return isXdd() || found == KEYS.end() ? name : found->second;
 }
 
 bool CDescription::isCanOpen(CXddRemark& failure) const
@@ -224,7 +225,7 @@ CXddCommissioning CDescription::commissioning() const
     stated.mBaudrate = bitRateOf(element.attribute(ATTR_ACTUAL_BAUD_RATE));
     stated.mNetworkNumber = number(ATTR_NETWORK_NUMBER);
     stated.mNetworkName = element.attribute(ATTR_NETWORK_NAME);
-    stated.mIsManager = flagOf(element.attribute(ATTR_CANOPEN_MANAGER)).value_or(false);
+    stated.mIsManager = flagOf(element.attribute(ATTR_CANOPEN_MANAGER));
     return stated;
 }
 

@@ -1,8 +1,7 @@
 #ifndef MVXXDDTOOLS_CDESCRIPTION_H
 #define MVXXDDTOOLS_CDESCRIPTION_H
 
-#include "CXddCommissioning.h"
-#include "CXddEntryTexts.h"
+#include "CXddDevice.h"
 #include "canopen/CDictionary.h"
 #include "canopen/CReferences.h"
 #include "canopen/Pdos.h"
@@ -28,12 +27,10 @@ struct SProfile
     CXmlElement body;
 };
 
-/** The form in which a description was written. */
-enum class EForm
+/** What an EDS or DCF says that an XDD has no place for. */
+struct SEdsExtras
 {
-    Xdd, ///< XML of ISO 15745
-    Eds, ///< INI form of CiA 306
-    Dcf  ///< INI form with what is configured
+    std::optional<unsigned int> revisionNumber; ///< RevisionNumber of [DeviceInfo]
 };
 
 /** A CANopen description as CiA 301 and its format mean it: what of it stands where in the text, and what holds. */
@@ -41,7 +38,7 @@ class CDescription
 {
 public:
     /** Reads a text with an element at its root, which has to outlive the description; @p form is that of the file. */
-    CDescription(const CXmlTree& tree, EForm form);
+    CDescription(const CXmlTree& tree, CXddDevice::EForm form, SEdsExtras extras = {});
     CDescription(const CDescription&) = delete; // PDOs refer to the dictionary
     CDescription(CDescription&&) = delete;
     CDescription& operator=(const CDescription&) = delete;
@@ -49,7 +46,9 @@ public:
     ~CDescription() = default;
 
     const CXmlTree& tree() const { return mTree; }
-    EForm form() const { return mForm; }
+    CXddDevice::EForm form() const { return mForm; }
+    bool isXdd() const { return mForm == CXddDevice::FORM_XDD; }
+    const SEdsExtras& extras() const { return mExtras; }
     /** What an attribute or element is called in the form of the file: "SubNumber" of an EDS for "subNumber". */
     QLatin1String word(QLatin1String name) const;
     CXmlElement root() const { return mTree.root(); }
@@ -94,7 +93,8 @@ public:
 
 private:
     const CXmlTree& mTree;
-    EForm mForm;
+    CXddDevice::EForm mForm;
+    SEdsExtras mExtras;
     CReferences mReferences;
     std::vector<SProfile> mProfiles;
     CDictionary mDictionary;

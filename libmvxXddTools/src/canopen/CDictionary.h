@@ -1,12 +1,11 @@
 #ifndef MVXXDDTOOLS_CDICTIONARY_H
 #define MVXXDDTOOLS_CDICTIONARY_H
 
+#include "CXddEntry.h"
 #include "canopen/CReferences.h"
 #include "canopen/CValue.h"
 #include "canopen/Writings.h"
 #include "names/ObjectCodes.h"
-
-#include <CCanOpenObject.h>
 
 #include <QHash>
 #include <QMap>
@@ -15,15 +14,18 @@
 #include <optional>
 #include <vector>
 
-/** A property of an entry and where it comes from: the entry itself or its parameter. */
+/** A property of an entry and where it comes from. */
 template <typename Value> struct SProperty
 {
     Value value{};
     QString text;       ///< As an attribute states it; null when none does
     CXmlElement source; ///< The element that it comes from; null when it comes from none
+    CXddValue::EOrigin origin = CXddValue::ORIGIN_NONE; ///< Whether that is the entry, its parameter or its array
 
     /** True when a text states it; an empty one gives nothing. */
     bool isGiven() const { return !text.isEmpty(); }
+    /** True when the entry itself states it. */
+    bool isOwn() const { return isGiven() && origin == CXddValue::ORIGIN_ENTRY; }
 };
 
 /** A value or limit: nothing where it is not given, or is no value of the data type. */
@@ -40,7 +42,8 @@ struct SProperties
     SValueProperty actualValue;
 };
 
-/** An object or sub-object with what holds for it: what it states itself, else what its parameter states. */
+/** An object or sub-object with what holds for it: what it states itself, else what its parameter states. An element of
+ * an array has the data type of the array where there is none otherwise. */
 struct SEntry : SProperties
 {
     CXmlElement element;
@@ -58,15 +61,27 @@ struct SEntry : SProperties
     /** What remarks about it name. */
     SPlace place() const;
     operator SPlace() const { return place(); }
+    /** The same where it is about an attribute of it. */
+    SPlace placeOf(QLatin1String attribute) const;
     /** True for what has a value: a sub-object, or an object without sub-objects. */
     bool isVariable() const { return isSubObject || subObjects == 0; }
     /** True for an object of the code ARRAY or RECORD. */
     bool isArrayOrRecord() const { return !isSubObject && (objectCode == CODE_ARRAY || objectCode == CODE_RECORD); }
     /** The default value as a whole number that does not depend on the node-ID. */
     std::optional<CInteger> plainDefault() const;
-    /** What it holds in the device that the file describes: the actual value where that is a whole number, else the
-     * default value. Without a data type it is read as an unsigned number. */
+
+    /** The value in force: the actual one where that is a value of its type, else the default value. */
+    const SValueProperty& inForce() const { return actualValue.value ? actualValue : defaultValue; }
+    /** The attribute that states it. */
+    QLatin1String inForceName() const;
+    /** The value in force as a whole number, which may depend on the node-ID. Without a data type it is read as an
+     * unsigned number. */
     std::optional<CValue> current() const;
+    /** The same for a node-ID, where it is a number of 32 bits. */
+    std::optional<unsigned int> number(unsigned int nodeId = 0) const;
+    /** What its limits allow, read with its data type; both ends are nothing where they limit none or contradict each
+     * other. An end that is not stated is that of the type. */
+    std::pair<QString, QString> range() const;
 };
 
 /** The object dictionary of a description. */
@@ -75,9 +90,6 @@ class CDictionary
 public:
     /** The dictionary of the objects in lists. */
     CDictionary(const std::vector<CXmlElement>& lists, CReferences& references);
-
-    /** The dictionary that a reader has loaded. Its entries are at no place of a file. */
-    explicit CDictionary(const QMap<unsigned int, CCanOpenObject>& objects);
 
     /** Every object in document order, each followed by its sub-objects. */
     const std::vector<SEntry>& entries() const { return mEntries; }
@@ -94,8 +106,12 @@ public:
     std::vector<const SEntry*> subObjects(const SEntry& object) const;
     /** The object that an entry belongs to; an object itself. */
     const SEntry& objectOf(const SEntry& entry) const { return mEntries[entry.object]; }
-    /** The data type of an entry; that of its array for an element without one. 0 when there is none. */
-    unsigned int typeOfVariable(const SEntry& entry) const;
+    /** The objects in ascending order, each once: of two with one index the first. */
+    const QMap<unsigned int, std::size_t>& byIndex() const { return mByIndex; }
+    /** The first object with that index, or its first such sub-object; null where there is none. */
+    const SEntry* entry(unsigned int index, std::optional<unsigned int> subIndex) const;
+    /** What a variable holds for a node-ID, as a number of 32 bits. */
+    std::optional<unsigned int> number(unsigned int index, unsigned int subIndex, unsigned int nodeId = 0) const;
     /** How many objects of each kind (CCanOpenNames::EObjectKind) a list has, by where the list begins. */
     QHash<int, std::array<unsigned int, 3>> countsOfLists() const;
     /** The entry that stands in an element of the file, or null. */
@@ -110,8 +126,18 @@ private:
 
     std::vector<SEntry> mEntries;
     std::vector<std::size_t> mObjects;
-    QHash<unsigned int, std::size_t> mByIndex;
+    QMap<unsigned int, std::size_t> mByIndex;
     QHash<quint64, std::size_t> mBySubIndex; // Index in the upper, sub-index in the lower half
 };
+
+/** An entry for programs. */
+CXddEntry shownEntry(const SEntry& entry, const CDictionary& dictionary);
+
+/** All entries for programs: the objects in ascending order, each followed by its sub-objects. What has no readable
+ * index is left out, and of two objects with one index the second. */
+QList<CXddEntry> shownEntries(const CDictionary& dictionary);
+
+/** What is left out there or not understood, and why. */
+QList<CXddRemark> leftOutOf(const CDictionary& dictionary);
 
 #endif

@@ -6,6 +6,7 @@
 #include <cfloat>
 #include <cmath>
 #include <limits>
+#include <tuple>
 
 namespace
 {
@@ -80,45 +81,32 @@ std::optional<CInteger> integer(const QString& text, unsigned int dataType)
 } // namespace
 
 CInteger::CInteger(bool isNegative, quint64 magnitude)
-    : mIsNegative(isNegative && magnitude != 0)
-    , mMagnitude(magnitude)
+    : mHigh(isNegative && magnitude != 0 ? -1 : 0)
+    , mLow(isNegative ? ~magnitude + 1 : magnitude)
 {}
-
-quint64 CInteger::magnitude() const
-{
-    return mMagnitude;
-}
 
 CInteger CInteger::plus(unsigned int number) const
 {
-    if (mIsNegative) {
-        return number < mMagnitude ? CInteger(true, mMagnitude - number) : CInteger(false, number - mMagnitude);
-    }
-    CInteger sum(false, mMagnitude + number);
-    sum.mHasCarry = sum.mMagnitude < mMagnitude;
+    CInteger sum = *this;
+    sum.mLow += number;
+    sum.mHigh += sum.mLow < mLow ? 1 : 0;
     return sum;
 }
 
 std::optional<unsigned int> CInteger::unsigned32() const
 {
-    const bool fits = !mIsNegative && !mHasCarry && mMagnitude <= std::numeric_limits<quint32>::max();
-    return fits ? std::optional<unsigned int>(static_cast<unsigned int>(mMagnitude)) : std::nullopt;
+    const bool fits = mHigh == 0 && mLow <= std::numeric_limits<quint32>::max();
+    return fits ? std::optional<unsigned int>(static_cast<unsigned int>(mLow)) : std::nullopt;
+}
+
+QString CInteger::text() const
+{
+    return (isNegative() ? QStringLiteral("-") : QString()) + QString::number(magnitude());
 }
 
 bool CInteger::operator<(const CInteger& other) const
 {
-    if (mIsNegative != other.mIsNegative) {
-        return mIsNegative;
-    }
-    if (mHasCarry != other.mHasCarry) {
-        return other.mHasCarry;
-    }
-    return mIsNegative ? other.mMagnitude < mMagnitude : mMagnitude < other.mMagnitude;
-}
-
-bool CInteger::operator==(const CInteger& other) const
-{
-    return mIsNegative == other.mIsNegative && mHasCarry == other.mHasCarry && mMagnitude == other.mMagnitude;
+    return std::tie(mHigh, mLow) < std::tie(other.mHigh, other.mLow);
 }
 
 std::optional<CValue> CValue::read(const QString& text, unsigned int dataType)
@@ -159,11 +147,6 @@ std::optional<CValue> CValue::read(const QString& text, unsigned int dataType)
     }
     value.mInteger = *number;
     return value;
-}
-
-quint64 CValue::bits() const
-{
-    return mInteger.isNegative() ? ~mInteger.magnitude() + 1 : mInteger.magnitude();
 }
 
 CInteger CValue::lowest(unsigned int dataType)

@@ -6,33 +6,35 @@
 
 #include <optional>
 
-/** A whole number of a sign and 64 bits, exact: no machine type holds all values of the 64-bit types of CiA 301. */
+/** A whole number of 128 bits in two's complement: no machine type that exists everywhere holds all values of the
+ * 64-bit types of CiA 301 and their sums with a node-ID. */
 class CInteger
 {
 public:
     CInteger() = default;
     CInteger(bool isNegative, quint64 magnitude);
 
-    bool isNegative() const { return mIsNegative; }
-    quint64 magnitude() const;
+    bool isNegative() const { return mHigh < 0; }
+    quint64 magnitude() const { return isNegative() ? ~mLow + 1 : mLow; }
+    /** Its lower 64 bits, a negative one as two's complement. */
+    quint64 bits() const { return mLow; }
 
-    /** The sum with a small positive number. One that needs a 65th bit is above all others. */
+    /** The sum with a small number. */
     CInteger plus(unsigned int number) const;
 
     /** The number as 32 bits without a sign; nothing for any other. */
     std::optional<unsigned int> unsigned32() const;
 
     /** As a signed decimal number. */
-    QString text() const { return (mIsNegative ? QStringLiteral("-") : QString()) + QString::number(mMagnitude); }
+    QString text() const;
 
     bool operator<(const CInteger& other) const;
-    bool operator==(const CInteger& other) const;
+    bool operator==(const CInteger& other) const { return mHigh == other.mHigh && mLow == other.mLow; }
     bool operator!=(const CInteger& other) const { return !(*this == other); }
 
 private:
-    bool mIsNegative = false;
-    bool mHasCarry = false; // The 65th bit of a sum
-    quint64 mMagnitude = 0;
+    qint64 mHigh = 0;
+    quint64 mLow = 0;
 };
 
 /** The node-IDs of a CANopen network. */
@@ -66,7 +68,7 @@ public:
     /** The whole number for a node-ID. */
     CInteger at(unsigned int nodeId) const { return mUsesNodeId ? mInteger.plus(nodeId) : mInteger; }
     /** The whole number as 64 bits, a negative one as two's complement. */
-    quint64 bits() const;
+    quint64 bits() const { return mInteger.bits(); }
 
     /** The real number. */
     double real() const { return mReal; }

@@ -14,7 +14,7 @@ QString CXddPdoField::entry() const
 
 QString CXddPdoField::fullName() const
 {
-    return mName == mObjectName || mObjectName.isEmpty() ? mName : mObjectName + QLatin1String(": ") + mName;
+    return CCanOpenNames::fullName(mObjectName, mName);
 }
 
 QString CXddPdoField::rangeText() const

@@ -1,6 +1,9 @@
 #ifndef MVXXDDTOOLS_COBIDS_H
 #define MVXXDDTOOLS_COBIDS_H
 
+#include "canopen/CValue.h"
+#include "remarks/SSentence.h"
+
 #include <QtGlobal>
 
 /** @file
@@ -30,10 +33,23 @@ constexpr quint64 FIRST_RECEIVE_CAN_ID = 0x200;
 constexpr quint64 PDO_CAN_ID_STEP = 0x100; ///< From one PDO to the next
 constexpr unsigned int PREDEFINED_PDOS = 4;
 
-/** True for a CAN-ID of 11 bits that CiA 301 keeps for other uses than PDOs. */
-bool isRestrictedCanId(quint64 canId);
+/** What a COB-ID is used for. */
+enum class ECobIdUse
+{
+    Pdo,
+    Sdo,
+    Emergency,
+    Other ///< SYNC, TIME
+};
 
-/** True when one of the CAN-IDs from first to last is. */
-bool hasRestrictedCanId(quint64 first, quint64 last);
+/** True for a COB-ID that is used: bit 31 is not set. */
+inline bool isValidCobId(const CValue& cobId)
+{
+    return (cobId.bits() & COB_ID_NOT_VALID) == 0;
+}
+
+/** What is wrong with a COB-ID, for every node-ID of the device, in words with a place for the value; nothing when it
+ * can be used. SDOs are at CAN-IDs that others must not use. */
+SWords cobIdFault(const CValue& cobId, ECobIdUse use);
 
 #endif

@@ -3,14 +3,12 @@
 
 #include "CXddPdo.h"
 #include "canopen/CDescription.h"
-#include "canopen/Pdos.h"
+#include "canopen/Texts.h"
 
-/** What a PDO is on the bus of a network in which its device has that node-ID: CAN-ID, timing, and where in its data
- * which entry is. With 0 the CAN-ID is that of node-ID 0. */
-CXddPdo layoutOf(const SPdo& pdo, const CDictionary& dictionary, unsigned int nodeId);
-
-/** All PDOs of a description, with the texts of what they carry. */
-QList<CXddPdo> layoutsOf(const CDescription& description, unsigned int nodeId);
+/** What the PDOs of a description are on the bus of a network in which the device has that node-ID: CAN-ID, timing, and
+ * where in their data which entry is, with its texts. With 0 the node-ID is the one that the description states; where
+ * it states none, CAN-IDs are those of node-ID 0. */
+QList<CXddPdo> layoutsOf(const CDescription& description, CTexts& texts, unsigned int nodeId);
 
 /** Where remarks about a PDO as a whole belong: its communication parameters, else its mapping. */
 SPlace placeOf(const CXddPdo& pdo, const CDictionary& dictionary);

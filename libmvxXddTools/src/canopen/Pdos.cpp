@@ -4,6 +4,7 @@
 #include "names/ObjectCodes.h"
 
 #include <algorithm>
+#include <map>
 
 namespace
 {
@@ -18,14 +19,19 @@ std::optional<EPdoDirection> directionFrom(unsigned int index, unsigned int offs
     return std::nullopt;
 }
 
+// The value in force, where it does not depend on the node-ID.
+std::optional<unsigned int> plainNumber(const SEntry& entry)
+{
+    const std::optional<CValue> value = entry.current();
+    return value && !value->usesNodeId() ? value->base().unsigned32() : std::nullopt;
+}
+
 // 16 bits index, 8 bits sub-index, 8 bits length.
 SPdoField fieldOf(const SEntry& entry, const CDictionary& dictionary)
 {
     SPdoField field;
     field.entry = &entry;
-    const std::optional<CValue> value = entry.current();
-    const std::optional<CInteger> number = value ? value->plain() : std::nullopt;
-    const std::optional<unsigned int> mapped = number ? number->unsigned32() : std::nullopt;
+    const std::optional<unsigned int> mapped = plainNumber(entry);
     field.isNumber = mapped.has_value();
     field.index = mapped.value_or(0) >> 16U;
     field.subIndex = (mapped.value_or(0) >> 8U) & 0xFFU;
@@ -51,9 +57,7 @@ void readMapping(SPdo& pdo, const CDictionary& dictionary)
     for (const SEntry* const entry : dictionary.subObjects(*pdo.mapping)) {
         if (entry->subIndex == 0U && pdo.count == nullptr) {
             pdo.count = entry;
-            const std::optional<CValue> value = entry->current();
-            const std::optional<CInteger> count = value ? value->plain() : std::nullopt;
-            pdo.active = count ? count->unsigned32() : std::nullopt;
+            pdo.active = plainNumber(*entry);
         } else if (entry->subIndex && *entry->subIndex > 0 && *entry->subIndex < STRUCTURE_SUB_INDEX) {
             pdo.fields.push_back(fieldOf(*entry, dictionary));
         }
@@ -96,24 +100,31 @@ QString SPdoField::name() const
 
 std::vector<SPdo> pdosOf(const CDictionary& dictionary)
 {
-    std::vector<SPdo> pdos;
-    for (const EPdoDirection direction : {EPdoDirection::Receive, EPdoDirection::Transmit}) {
-        const unsigned int first = direction == EPdoDirection::Receive ? FIRST_RECEIVE_PDO : FIRST_TRANSMIT_PDO;
-        for (unsigned int number = 0; number < PDO_COUNT; ++number) {
-            SPdo pdo;
-            pdo.direction = direction;
-            pdo.number = number + 1;
-            pdo.communication = dictionary.object(first + number);
-            pdo.mapping = dictionary.object(first + number + MAPPING_OFFSET);
-            if (pdo.mapping != nullptr) {
-                readMapping(pdo, dictionary);
-            }
-            if (pdo.communication != nullptr || pdo.mapping != nullptr) {
-                pdos.push_back(std::move(pdo));
-            }
+    std::map<std::pair<EPdoDirection, unsigned int>, SPdo> pdos;
+    const QMap<unsigned int, std::size_t>& objects = dictionary.byIndex();
+    for (auto object = objects.lowerBound(FIRST_RECEIVE_PDO);
+         object != objects.cend() && object.key() < FIRST_TRANSMIT_PDO + MAPPING_OFFSET + PDO_COUNT; ++object) {
+        const std::optional<EPdoDirection> communicates = communicationDirection(object.key());
+        const std::optional<EPdoDirection> maps = mappingDirection(object.key());
+        if (!communicates && !maps) {
+            continue;
+        }
+        const EPdoDirection direction = communicates ? *communicates : *maps;
+        const unsigned int number = object.key() % PDO_COUNT + 1;
+        SPdo& pdo = pdos[{direction, number}];
+        pdo.direction = direction;
+        pdo.number = number;
+        (communicates ? pdo.communication : pdo.mapping) = &dictionary.entries()[*object];
+        if (maps) {
+            readMapping(pdo, dictionary);
         }
     }
-    return pdos;
+    std::vector<SPdo> inOrder;
+    inOrder.reserve(pdos.size());
+    for (auto& row : pdos) {
+        inOrder.push_back(std::move(row.second));
+    }
+    return inOrder;
 }
 
 unsigned int countOf(const std::vector<SPdo>& pdos, EPdoDirection direction)

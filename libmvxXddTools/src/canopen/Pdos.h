@@ -32,6 +32,15 @@ constexpr unsigned int MAX_PDO_BITS = 64;
 constexpr int MAX_PDO_BYTES = 8;
 constexpr int BITS_OF_BYTE = 8;
 
+/** Transmission types from here on are reserved, up to 251, or up to 253 for an RPDO, which nobody can request. */
+constexpr unsigned int FIRST_RESERVED_TYPE = 241;
+
+/** The last of them. */
+constexpr unsigned int lastReservedType(EPdoDirection direction)
+{
+    return direction == EPdoDirection::Receive ? 253 : 251;
+}
+
 /** The direction of the PDO whose communication parameters have that index. */
 std::optional<EPdoDirection> communicationDirection(unsigned int index);
 
@@ -55,7 +64,10 @@ struct SPdoField
     const SEntry* target = nullptr; ///< The entry of the dictionary; null when it is not there, or a dummy is mapped
     bool isActive = false;          ///< The PDO carries it
 
+    /** True for an entry that is 0: an empty place. */
     bool mapsNothing() const { return index == 0 && subIndex == 0 && bits == 0; }
+    /** True for one that takes no room. */
+    bool carriesNothing() const { return index == 0 || bits == 0; }
     /** True when it maps a sub-object; where the entry is not there, by its sub-index. */
     bool isSubObject() const { return target == nullptr ? subIndex != 0 : target->isSubObject; }
     /** What it maps, such as "0x6041" or "0x6200:01". */
@@ -75,6 +87,9 @@ struct SPdo
     std::optional<unsigned int> active;    ///< How many fields sub-index 0 says are active
     std::vector<SPdoField> fields;         ///< The sub-objects of the mapping from 1 to 254
 
+    /** Where remarks about it as a whole belong. */
+    SPlace place() const { return (communication != nullptr ? communication : mapping)->place(); }
+    bool isTransmit() const { return direction == EPdoDirection::Transmit; }
     bool isMultiplexed() const { return active == MULTIPLEXED || active == MULTIPLEXED + 1; }
     unsigned int highestSubIndex() const { return fields.empty() ? 0 : *fields.back().entry->subIndex; }
 };

@@ -126,6 +126,26 @@ private:
 };
 } // namespace
 
+QList<CXddLabel> textsIn(const CXmlElement& list, const CDescription& description)
+{
+    return CTextCollector(description).allTexts(list);
+}
+
+QString joinedTexts(QStringList texts, QLatin1String separator)
+{
+    texts.removeAll(QString());
+    return texts.join(separator);
+}
+
+std::optional<double> scaleOf(const QString& text, double otherwise)
+{
+    bool ok = false;
+    const double number = text.trimmed().toDouble(&ok);
+    return ok                         ? std::optional<double>(number)
+           : text.trimmed().isEmpty() ? std::optional<double>(otherwise)
+                                      : std::nullopt;
+}
+
 CTexts::CTexts(const CDescription& description)
     : mDescription(description)
 {}

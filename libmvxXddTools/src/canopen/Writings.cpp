@@ -28,12 +28,12 @@ const std::array ACCESS_OF_ENTRIES = {
 };
 
 const std::array ACCESS_OF_PARAMETERS = {
+    SWord<EAccess>{EAccess::Const, VAL_OBJ_ACCESS_CONST},
     SWord<EAccess>{EAccess::ReadOnly, VAL_ACCESS_READ},
     SWord<EAccess>{EAccess::WriteOnly, VAL_ACCESS_WRITE},
     SWord<EAccess>{EAccess::ReadWrite, VAL_ACCESS_READ_WRITE},
     SWord<EAccess>{EAccess::ReadWrite, VAL_ACCESS_READ_WRITE_INPUT},
     SWord<EAccess>{EAccess::ReadWrite, VAL_ACCESS_READ_WRITE_OUTPUT},
-    SWord<EAccess>{EAccess::Const, VAL_OBJ_ACCESS_CONST},
     SWord<EAccess>{EAccess::None, VAL_NO_ACCESS},
 };
 
@@ -72,6 +72,15 @@ EAccess accessOfEntry(const QString& text)
 EAccess accessOfParameter(const QString& text)
 {
     return meaningOf(text, ACCESS_OF_PARAMETERS);
+}
+
+QStringList accessWordsOfParameters()
+{
+    QStringList words;
+    for (const SWord<EAccess>& row : ACCESS_OF_PARAMETERS) {
+        words << row.word;
+    }
+    return words;
 }
 
 QLatin1String accessText(EAccess access)

@@ -6,6 +6,7 @@
 #include <QDate>
 #include <QLatin1String>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -35,6 +36,8 @@ enum class EAccess
 EAccess accessOfEntry(const QString& text);
 /** The access that the "access" of a parameter means, likewise. */
 EAccess accessOfParameter(const QString& text);
+/** All words of the format for the "access" of a parameter. */
+QStringList accessWordsOfParameters();
 /** The "accessType" of an access; nothing for one that has none. */
 QLatin1String accessText(EAccess access);
 

@@ -160,7 +160,7 @@ void numberWidth(const CDescription& description, CRemarks& findings)
 }
 
 // An attribute and the words that the format has for it.
-struct SWords
+struct SKnownWords
 {
     QLatin1String element;
     QLatin1String attribute;
@@ -184,20 +184,17 @@ QStringList dummyWords()
     return words;
 }
 
-const std::vector<SWords>& knownWords()
+const std::vector<SKnownWords>& knownWords()
 {
     static const QStringList accessTypes = wordsOf(CCanOpenSubObject::mAccessTypeTexts);
     static const QStringList mappings = wordsOf(CCanOpenSubObject::mPdoMappingTexts);
     static const QStringList bitRates = wordsOf(CNetworkCanOpenProfile::mBaudrateTexts);
-    static const std::vector<SWords> words = {
+    static const std::vector<SKnownWords> words = {
         {TAG_CAN_OPEN_OBJECT, ATTR_ACCESS_TYPE, accessTypes},
         {TAG_CAN_OPEN_OBJECT, ATTR_PDO_MAPPING, mappings},
         {TAG_CAN_OPEN_SUB_OBJECT, ATTR_ACCESS_TYPE, accessTypes},
         {TAG_CAN_OPEN_SUB_OBJECT, ATTR_PDO_MAPPING, mappings},
-        {TAG_PARAMETER,
-         ATTR_ACCESS,
-         {VAL_OBJ_ACCESS_CONST, VAL_ACCESS_READ, VAL_ACCESS_WRITE, VAL_ACCESS_READ_WRITE, VAL_ACCESS_READ_WRITE_INPUT,
-          VAL_ACCESS_READ_WRITE_OUTPUT, VAL_NO_ACCESS}},
+        {TAG_PARAMETER, ATTR_ACCESS, accessWordsOfParameters()},
         {TAG_VERSION, ATTR_VERSION_TYPE, {VAL_VTYPE_SW, VAL_VTYPE_FW, VAL_VTYPE_HW}},
         {TAG_SUPPORTED_BAUD_RATE, ATTR_VALUE, bitRates},
         {TAG_BAUD_RATE, ATTR_DEFAULT_VALUE, bitRates},
@@ -210,7 +207,7 @@ const std::vector<SWords>& knownWords()
 void unknownWord(const CDescription& description, CRemarks& findings)
 {
     for (const CXmlElement& element : description.tree().all()) {
-        for (const SWords& known : knownWords()) {
+        for (const SKnownWords& known : knownWords()) {
             const QString text = element.is(known.element) ? element.attribute(known.attribute) : QString();
             if (!text.isEmpty() && !known.words.contains(text)) {
                 findings.add(
@@ -276,38 +273,46 @@ const CheckRules& CCheckRules::form()
     static const CheckRules rules = {
         {"not-well-formed", ERROR,
          QT_TR_NOOP("The file is not well-formed XML or exceeds the limits for hostile files"),
-         QT_TR_NOOP("No tool can read it. Fix the place that the message names."), nullptr},
+         QT_TR_NOOP("No tool can read it. Fix the place that the message names."), nullptr, "<label lang=\"en\">Speed",
+         "<label lang=\"en\">Speed</label>"},
         {"not-a-description", ERROR, QT_TR_NOOP("The root, the technology or the bodies are not those of CANopen"),
          QT_TR_NOOP("No CANopen tool can use it. Check that it is the right file, and the xsi:type of its bodies."),
-         nullptr},
+         nullptr, "<ProfileTechnology>DeviceNet</ProfileTechnology>", "<ProfileTechnology>CANopen</ProfileTechnology>"},
         {"missing-item", ERROR, QT_TR_NOOP("A required element or attribute is missing"),
          QT_TR_NOOP("Strict readers refuse the file. Add it; where there is nothing to say, an empty one."),
-         missingItem},
+         missingItem, "<ProfileBody fileName=\"drive.xdd\">",
+         "<ProfileBody fileName=\"drive.xdd\" fileCreator=\"Works\" fileCreationDate=\"2024-02-29\" fileVersion=\"1\">"},
         {"bad-number", ERROR,
          QT_TR_NOOP(
              "index, subIndex, dataType, objFlags, objectType or subNumber is not written as the format demands"),
          QT_TR_NOOP(
              "Tools read another number or none. Write index as four, subIndex as two and dataType as four hexadecimal digits without 0x, and the others in decimal."),
-         badNumber},
+         badNumber, "<CANopenObject index=\"0x1000\" dataType=\"7\">",
+         "<CANopenObject index=\"1000\" dataType=\"0007\">"},
         {"number-width", WARNING, QT_TR_NOOP("subIndex does not have two digits"),
-         QT_TR_NOOP("Tools that expect one byte skip the sub-object. Write two digits."), numberWidth},
+         QT_TR_NOOP("Tools that expect one byte skip the sub-object. Write two digits."), numberWidth, "subIndex=\"1\"",
+         "subIndex=\"01\""},
         {"unknown-word", ERROR,
          QT_TR_NOOP(
              "accessType, PDOmapping, access, versionType, a bit rate or a dummy entry is not a word of the format"),
          QT_TR_NOOP("Tools ignore it or refuse the file. Write one of the listed words, with its capitals."),
-         unknownWord},
+         unknownWord, "accessType=\"RW\"", "accessType=\"rw\""},
         {"bad-date", WARNING, QT_TR_NOOP("A file date is not yyyy-MM-dd, or a file time not hh:mm:ss"),
-         QT_TR_NOOP("Tools lose it or refuse the file. Write it in that form."), badDate},
+         QT_TR_NOOP("Tools lose it or refuse the file. Write it in that form."), badDate,
+         "fileCreationDate=\"29.02.2024\"", "fileCreationDate=\"2024-02-29\""},
         {"duplicate-id", ERROR, QT_TR_NOOP("A uniqueID is used twice"),
          QT_TR_NOOP("A reference to it means one element in one tool and the other in the next. Rename one."),
-         duplicateId},
+         duplicateId, "<parameter uniqueID=\"P1\"/> <parameter uniqueID=\"P1\"/>",
+         "<parameter uniqueID=\"P1\"/> <parameter uniqueID=\"P2\"/>"},
         {"dangling-reference", ERROR,
          QT_TR_NOOP(
              "A uniqueIDRef refers to nothing. That of an object or sub-object also has to refer to a parameter"),
          QT_TR_NOOP("What the reference should bring, such as the data type, is lost. Fix the ID or remove it."),
-         danglingReference},
+         danglingReference, "<CANopenObject uniqueIDRef=\"P9\"/> without <parameter uniqueID=\"P9\">",
+         "<CANopenObject uniqueIDRef=\"P1\"/> with <parameter uniqueID=\"P1\">"},
         {"unused-suppression", NOTE, QT_TR_NOOP("A comment with xddcheck-disable-next-line hides no finding"),
-         QT_TR_NOOP("It may hide a later one unseen. Remove the comment, or correct the name of the rule."), nullptr},
+         QT_TR_NOOP("It may hide a later one unseen. Remove the comment, or correct the name of the rule."), nullptr,
+         "<!-- xddcheck-disable-next-line bad-nummber -->", "<!-- xddcheck-disable-next-line bad-number -->"},
     };
     return rules;
 }

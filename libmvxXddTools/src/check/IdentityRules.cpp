@@ -81,12 +81,15 @@ const CheckRules& CCheckRules::identity()
         {"identity-mismatch", WARNING, QT_TR_NOOP("vendorID or productID is not the default value of object 0x1018"),
          QT_TR_NOOP(
              "A tool that looks a device up by its identity does not find this description. Write the same number at both places."),
-         identityMismatch},
+         identityMismatch, "<vendorID>0x2A</vendorID>, and 0x2B by default in 0x1018:01",
+         "<vendorID>0x2A</vendorID>, and 0x2A by default in 0x1018:01"},
         {"identity-number", WARNING, QT_TR_NOOP("vendorID is not a number"),
-         QT_TR_NOOP("Tools cannot compare it with a device. Write the number that CiA assigned."), identityNumber},
+         QT_TR_NOOP("Tools cannot compare it with a device. Write the number that CiA assigned."), identityNumber,
+         "<vendorID>Works</vendorID>", "<vendorID>0x0000002A</vendorID>"},
         {"empty-identity", NOTE,
          QT_TR_NOOP("vendorName, vendorID, productName or productID is empty, or vendorID is 0"),
-         QT_TR_NOOP("Catalogues cannot list the device. Fill it in if it is known."), emptyIdentity},
+         QT_TR_NOOP("Catalogues cannot list the device. Fill it in if it is known."), emptyIdentity, "<vendorID/>",
+         "<vendorID>0x0000002A</vendorID>"},
     };
     return rules;
 }

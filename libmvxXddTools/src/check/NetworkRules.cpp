@@ -18,7 +18,7 @@ void pdoCount(const CDescription& description, CRemarks& findings)
             const unsigned int count = countOf(description.pdos(), direction);
             if (stated && *stated != count) {
                 findings.add(
-                    features, CRemarks::say("%1 is %2, but the number of PDOs is %3"),
+                    features.placeOf(attribute), CRemarks::say("%1 is %2, but the number of PDOs is %3"),
                     {description.word(attribute), features.attribute(attribute), count});
             }
         };
@@ -40,11 +40,12 @@ void granularity(const CDescription& description, CRemarks& findings)
         const auto stated = CXmlValue::toNumber(features.attribute(ATTR_GRANULARITY), 10);
         if (stated == 0U && writable > 0 && fixed == 0) {
             findings.add(
-                features, CRemarks::say("%1 is 0 (fixed mappings), but every mapping can be written"),
+                features.placeOf(ATTR_GRANULARITY),
+                CRemarks::say("%1 is 0 (fixed mappings), but every mapping can be written"),
                 {description.word(ATTR_GRANULARITY)});
         } else if (stated.value_or(0) != 0 && writable == 0 && fixed > 0) {
             findings.add(
-                features, CRemarks::say("%1 is %2, but no mapping can be written"),
+                features.placeOf(ATTR_GRANULARITY), CRemarks::say("%1 is %2, but no mapping can be written"),
                 {description.word(ATTR_GRANULARITY), *stated});
         }
     }
@@ -58,7 +59,7 @@ void missingBitRate(const CDescription& description, CRemarks& findings)
         }
     }
     // An EDS that states none has no element for it.
-    if (description.form() != EForm::Xdd && description.bitRates().empty()) {
+    if (!description.isXdd() && description.bitRates().empty()) {
         for (const CXmlElement& features : description.managementElements(TAG_GENERAL_FEATURES)) {
             findings.add(features, CRemarks::say("no bit rate is supported"));
         }
@@ -84,7 +85,7 @@ void defaultBitRate(const CDescription& description, CRemarks& findings)
 // The commissioning of an EDS has a rule of its own.
 void nodeId(const CDescription& description, CRemarks& findings)
 {
-    if (description.form() != EForm::Xdd) {
+    if (!description.isXdd()) {
         return;
     }
     for (const CXmlElement& commissioning : description.managementElements(TAG_COMMISSIONING)) {
@@ -104,16 +105,21 @@ const CheckRules& CCheckRules::network()
 {
     static const CheckRules rules = {
         {"pdo-count", WARNING, QT_TR_NOOP("nrOfRxPDO or nrOfTxPDO is not the number of PDOs in the dictionary"),
-         QT_TR_NOOP("Tools set up too many or too few PDOs. Count the objects from 0x1400 and 0x1800."), pdoCount},
+         QT_TR_NOOP("Tools set up too many or too few PDOs. Count the objects from 0x1400 and 0x1800."), pdoCount,
+         "nrOfTxPDO=\"4\" with two of them", "nrOfTxPDO=\"2\""},
         {"granularity", WARNING, QT_TR_NOOP("granularity contradicts the access to the mappings"),
          QT_TR_NOOP("Tools offer a mapping that the device refuses, or none. 0 means fixed mappings, 8 whole bytes."),
-         granularity},
+         granularity, "granularity=\"0\" with mapped entries", "granularity=\"8\""},
         {"missing-bit-rate", WARNING, QT_TR_NOOP("No bit rate is supported"),
-         QT_TR_NOOP("Tools cannot offer a bit rate, or refuse the file. List the supported ones."), missingBitRate},
+         QT_TR_NOOP("Tools cannot offer a bit rate, or refuse the file. List the supported ones."), missingBitRate,
+         "<baudRate/>", "<baudRate><supportedBaudRate value=\"125 Kbps\"/></baudRate>"},
         {"default-bit-rate", WARNING, QT_TR_NOOP("The default bit rate is not one of the supported bit rates"),
-         QT_TR_NOOP("A tool that picks it cannot reach the device. Correct one of them."), defaultBitRate},
+         QT_TR_NOOP("A tool that picks it cannot reach the device. Correct one of them."), defaultBitRate,
+         "<baudRate defaultValue=\"50 Kbps\"> that is not among the supported ones",
+         "<baudRate defaultValue=\"125 Kbps\"> that is"},
         {"node-id", WARNING, QT_TR_NOOP("The node-ID of the commissioning is not a number up to 127"),
-         QT_TR_NOOP("Node-IDs of CANopen are 1 to 127. Write one of them, or 0 for none."), nodeId},
+         QT_TR_NOOP("Node-IDs of CANopen are 1 to 127. Write one of them, or 0 for none."), nodeId,
+         "<deviceCommissioning nodeID=\"200\"/>", "<deviceCommissioning nodeID=\"20\"/>"},
     };
     return rules;
 }

@@ -63,7 +63,7 @@ void objectType(const CDescription& description, CRemarks& findings)
         const bool isKnown = entry.isSubObject ? codeOf(entry).isOfSubObject : codeOf(entry).isOfObject;
         if (entry.objectCode && !isKnown) {
             findings.add(
-                entry.place(),
+                entry.placeOf(ATTR_OBJECT_TYPE),
                 entry.isSubObject ? CRemarks::say("the object code %1 is not allowed for a sub-object (2 or 7 is)")
                                   : CRemarks::say("the object code %1 is not allowed for an object (2 and 5 to 9 are)"),
                 {entry.element.attribute(ATTR_OBJECT_TYPE)});
@@ -159,7 +159,7 @@ void highestSubIndex(const CDescription& description, CRemarks& findings)
             first != nullptr && (!isWritable(first->access.value) || object.index.value_or(0) < 0x2000);
         if (stated && isFixed && *stated != CInteger(false, highest)) {
             findings.add(
-                *first, CRemarks::say("the default %1 is not the highest sub-index %2"),
+                first->placeOf(ATTR_DEFAULT_VALUE), CRemarks::say("the default %1 is not the highest sub-index %2"),
                 {quoted(first->defaultValue, *first), highest});
         }
     });
@@ -172,7 +172,7 @@ void subNumber(const CDescription& description, CRemarks& findings)
         const auto stated = CXmlValue::toNumber(text, 10);
         if (object.subObjects > 0 && stated && *stated != unsigned(object.subObjects)) {
             findings.add(
-                object, CRemarks::say("%1 is %2, but the number of sub-objects is %3"),
+                object.placeOf(ATTR_SUB_NUMBER), CRemarks::say("%1 is %2, but the number of sub-objects is %3"),
                 {description.word(ATTR_SUB_NUMBER), text, object.subObjects});
         }
     });
@@ -204,33 +204,49 @@ const CheckRules& CCheckRules::object()
 {
     static const CheckRules rules = {
         {"duplicate-index", ERROR, QT_TR_NOOP("An object is there twice"),
-         QT_TR_NOOP("Tools refuse the file or keep either one. Remove or renumber one."), duplicateIndex},
+         QT_TR_NOOP("Tools refuse the file or keep either one. Remove or renumber one."), duplicateIndex,
+         "<CANopenObject index=\"2000\"/> <CANopenObject index=\"2000\"/>",
+         "<CANopenObject index=\"2000\"/> <CANopenObject index=\"2001\"/>"},
         {"duplicate-subindex", ERROR, QT_TR_NOOP("A sub-object is there twice"),
-         QT_TR_NOOP("Tools keep either one. Remove or renumber one."), duplicateSubIndex},
+         QT_TR_NOOP("Tools keep either one. Remove or renumber one."), duplicateSubIndex,
+         "subIndex=\"01\" ... subIndex=\"01\"", "subIndex=\"01\" ... subIndex=\"02\""},
         {"index-range", ERROR, QT_TR_NOOP("An index is above 0xBFFF, or below 0x1000 and not that of a data type"),
-         QT_TR_NOOP("These indexes are reserved, and tools refuse them. Use another one."), indexRange},
+         QT_TR_NOOP("These indexes are reserved, and tools refuse them. Use another one."), indexRange,
+         "index=\"0000\"", "index=\"2000\""},
         {"object-type", ERROR, QT_TR_NOOP("objectType is not an object code that CiA 301 allows there"),
-         QT_TR_NOOP("Tools do not know what to do with the entry. 7 is VAR, 8 ARRAY, 9 RECORD, 2 DOMAIN."), objectType},
+         QT_TR_NOOP("Tools do not know what to do with the entry. 7 is VAR, 8 ARRAY, 9 RECORD, 2 DOMAIN."), objectType,
+         "objectType=\"4\"", "objectType=\"7\""},
         {"missing-subobjects", ERROR, QT_TR_NOOP("An array or record has no sub-objects"),
-         QT_TR_NOOP("Tools cannot access anything of it. Add them, or make it a VAR (7)."), missingSubObjects},
+         QT_TR_NOOP("Tools cannot access anything of it. Add them, or make it a VAR (7)."), missingSubObjects,
+         "<CANopenObject objectType=\"9\"/>",
+         "<CANopenObject objectType=\"9\"><CANopenSubObject subIndex=\"00\"/></CANopenObject>"},
         {"subobjects-of-variable", ERROR, QT_TR_NOOP("A variable has sub-objects"),
-         QT_TR_NOOP("Tools drop them or refuse the file. Make it an ARRAY (8) or RECORD (9)."), subObjectsOfVariable},
+         QT_TR_NOOP("Tools drop them or refuse the file. Make it an ARRAY (8) or RECORD (9)."), subObjectsOfVariable,
+         "<CANopenObject objectType=\"7\"><CANopenSubObject/></CANopenObject>",
+         "<CANopenObject objectType=\"9\"><CANopenSubObject/></CANopenObject>"},
         {"missing-subindex-0", ERROR, QT_TR_NOOP("An array or record has no sub-index 0"),
-         QT_TR_NOOP("Tools read the number of elements from it. Add it as UNSIGNED8."), missingSubIndex0},
+         QT_TR_NOOP("Tools read the number of elements from it. Add it as UNSIGNED8."), missingSubIndex0,
+         "<CANopenObject objectType=\"8\"> with sub-index 01 only",
+         "<CANopenObject objectType=\"8\"> with sub-index 00 and 01"},
         {"missing-mandatory-object", WARNING, QT_TR_NOOP("0x1000, 0x1001 or 0x1018 is missing"),
          QT_TR_NOOP("Every device has these objects, and masters read them at start-up. Add it."),
-         missingMandatoryObject},
+         missingMandatoryObject, "a dictionary without 0x1018",
+         "<CANopenObject index=\"1018\" name=\"Identity\" objectType=\"9\">"},
         {"missing-error-control", WARNING, QT_TR_NOOP("There is neither a heartbeat nor node guarding"),
          QT_TR_NOOP("A master cannot see whether the device is alive. Add 0x1017, or 0x100C and 0x100D."),
-         missingErrorControl},
+         missingErrorControl, "neither 0x1017 nor 0x100C and 0x100D",
+         "<CANopenObject index=\"1017\" name=\"Producer heartbeat time\">"},
         {"highest-subindex", WARNING,
          QT_TR_NOOP("The default value of a fixed sub-index 0 is not the highest sub-index"),
          QT_TR_NOOP("Tools stop too early or ask for what is not there. State the highest sub-index below 255."),
-         highestSubIndex},
+         highestSubIndex, "subIndex=\"00\" defaultValue=\"5\" where 04 is the last",
+         "subIndex=\"00\" defaultValue=\"4\""},
         {"sub-number", WARNING, QT_TR_NOOP("subNumber is not the number of sub-objects"),
-         QT_TR_NOOP("Something was added or removed by hand. Count again, with sub-index 0."), subNumber},
+         QT_TR_NOOP("Something was added or removed by hand. Count again, with sub-index 0."), subNumber,
+         "subNumber=\"4\" with five sub-objects", "subNumber=\"5\""},
         {"object-count", WARNING, QT_TR_NOOP("A stated number of objects is not the number in the dictionary"),
-         QT_TR_NOOP("Something was added or removed by hand. Count again, or remove the number."), objectCount},
+         QT_TR_NOOP("Something was added or removed by hand. Count again, or remove the number."), objectCount,
+         "mandatoryObjects=\"2\" with three of them", "mandatoryObjects=\"3\""},
     };
     return rules;
 }

@@ -21,7 +21,8 @@ void subIndex0Type(const CDescription& description, CRemarks& findings)
             entry.isSubObject && entry.subIndex == 0U && description.dictionary().objectOf(entry).isArrayOrRecord();
         if (isFirst && type != 0 && type != TYPE_UNSIGNED8) {
             findings.add(
-                entry, CRemarks::say("the data type is %1 instead of UNSIGNED8"), {CCanOpenNames::dataType(type)});
+                entry.placeOf(ATTR_DATA_TYPE), CRemarks::say("the data type is %1 instead of UNSIGNED8"),
+                {CCanOpenNames::dataType(type)});
         }
     }
 }
@@ -35,7 +36,7 @@ void missingDataType(const CDescription& description, CRemarks& findings)
         }
         if (entry.dataType.isGiven()) {
             findings.add(
-                entry, CRemarks::say("%1 \"%2\" is not a data type"),
+                entry.placeOf(ATTR_DATA_TYPE), CRemarks::say("%1 \"%2\" is not a data type"),
                 {description.word(ATTR_DATA_TYPE), entry.dataType.text});
         } else {
             findings.add(entry, CRemarks::say("VAR without a data type"));
@@ -49,9 +50,13 @@ void unknownDataType(const CDescription& description, CRemarks& findings)
         const unsigned int type = entry.dataType.value;
         const EValueKind kind = valueKind(type);
         if (kind == EValueKind::Record) {
-            findings.add(entry, CRemarks::say("the data type %1 is that of a record"), {CCanOpenNames::dataType(type)});
+            findings.add(
+                entry.placeOf(ATTR_DATA_TYPE), CRemarks::say("the data type %1 is that of a record"),
+                {CCanOpenNames::dataType(type)});
         } else if (type != 0 && kind == EValueKind::None && !isBetween(type, FIRST_OWN_TYPE, LAST_TYPE)) {
-            findings.add(entry, CRemarks::say("the data type %1 is unknown"), {CCanOpenNames::dataType(type)});
+            findings.add(
+                entry.placeOf(ATTR_DATA_TYPE), CRemarks::say("the data type %1 is unknown"),
+                {CCanOpenNames::dataType(type)});
         }
     });
 }
@@ -93,20 +98,18 @@ void referenceConflict(const CDescription& description, CRemarks& findings)
             return;
         }
         const SProperties other = CDictionary::fromParameter(entry);
-        const auto isOwn = [&](const auto& property) {
-            return property.isGiven() && property.source == entry.element;
-        };
         const unsigned int type = other.dataType.value;
-        if (isOwn(entry.dataType) && type != 0 && entry.dataType.value != TYPE_DOMAIN && entry.dataType.value != type) {
+        if (entry.dataType.isOwn() && type != 0 && entry.dataType.value != TYPE_DOMAIN
+            && entry.dataType.value != type) {
             conflict(entry, ATTR_DATA_TYPE, CCanOpenNames::dataType(type), entry.parameter, findings);
         }
-        if (isOwn(entry.access) && entry.access.value != other.access.value) {
+        if (entry.access.isOwn() && entry.access.value != other.access.value) {
             const QString stated = other.access.isGiven() ? other.access.text : QString(VAL_ACCESS_READ);
             conflict(entry, ATTR_ACCESS_TYPE, stated, entry.parameter, findings);
         }
         const bool isSameText = entry.defaultValue.text == other.defaultValue.text;
         const bool isSameValue = entry.defaultValue.value && other.defaultValue.value == entry.defaultValue.value;
-        if (isOwn(entry.defaultValue) && other.defaultValue.isGiven() && !isSameText && !isSameValue) {
+        if (entry.defaultValue.isOwn() && other.defaultValue.isGiven() && !isSameText && !isSameValue) {
             conflict(entry, ATTR_DEFAULT_VALUE, other.defaultValue.text, other.defaultValue.source, findings);
         }
     });
@@ -259,7 +262,7 @@ void standardObjectType(const CDescription& description, CRemarks& findings)
         const unsigned int type = standardType(*entry.index, entry.subIndex.value_or(0));
         if (type != 0 && entry.dataType.value != type) {
             findings.add(
-                entry, CRemarks::say("the data type is %1, but CiA 301 specifies %2"),
+                entry.placeOf(ATTR_DATA_TYPE), CRemarks::say("the data type is %1, but CiA 301 specifies %2"),
                 {CCanOpenNames::dataType(entry.dataType.value), CCanOpenNames::dataType(type)});
         }
     });
@@ -270,26 +273,35 @@ const CheckRules& CCheckRules::type()
 {
     static const CheckRules rules = {
         {"subindex-0-type", WARNING, QT_TR_NOOP("Sub-index 0 of an array or record is not UNSIGNED8"),
-         QT_TR_NOOP("CiA 301 specifies that type, and tools access that length. Use 0005."), subIndex0Type},
+         QT_TR_NOOP("CiA 301 specifies that type, and tools access that length. Use 0005."), subIndex0Type,
+         "subIndex=\"00\" dataType=\"0007\"", "subIndex=\"00\" dataType=\"0005\""},
         {"missing-data-type", ERROR, QT_TR_NOOP("A VAR has no data type"),
          QT_TR_NOOP("Tools do not know its length and refuse it. Add dataType or a parameter with one."),
-         missingDataType},
+         missingDataType, "<CANopenObject objectType=\"7\" accessType=\"rw\"/>",
+         "<CANopenObject objectType=\"7\" dataType=\"0007\" accessType=\"rw\"/>"},
         {"unknown-data-type", WARNING, QT_TR_NOOP("The data type of a variable is that of a record, or unknown"),
-         QT_TR_NOOP("Tools do not know its length. Use a type of CiA 301 such as 0007."), unknownDataType},
+         QT_TR_NOOP("Tools do not know its length. Use a type of CiA 301 such as 0007."), unknownDataType,
+         "dataType=\"001C\"", "dataType=\"001B\""},
         {"missing-access-type", ERROR, QT_TR_NOOP("A variable has no access type"),
-         QT_TR_NOOP("Tools refuse it or take it as read-only. Add ro, wo, rw or const."), missingAccessType},
+         QT_TR_NOOP("Tools refuse it or take it as read-only. Add ro, wo, rw or const."), missingAccessType,
+         "<CANopenObject objectType=\"7\" dataType=\"0007\"/>",
+         "<CANopenObject objectType=\"7\" dataType=\"0007\" accessType=\"rw\"/>"},
         {"no-access", WARNING, QT_TR_NOOP("A variable can be neither read nor written"),
-         QT_TR_NOOP("Nobody can use it. State the access of its parameter, or remove it."), noAccess},
+         QT_TR_NOOP("Nobody can use it. State the access of its parameter, or remove it."), noAccess,
+         "<parameter access=\"noAccess\">", "<parameter access=\"read\">"},
         {"reference-conflict", WARNING,
          QT_TR_NOOP("dataType, accessType or defaultValue of an entry differs from its parameter"),
-         QT_TR_NOOP("Tools go by one or the other. State it once, or the same at both places."), referenceConflict},
+         QT_TR_NOOP("Tools go by one or the other. State it once, or the same at both places."), referenceConflict,
+         "dataType=\"0006\" with <parameter><UDINT/></parameter>",
+         "dataType=\"0007\" with <parameter><UDINT/></parameter>"},
         {"type-list-conflict", WARNING, QT_TR_NOOP("An array or structure of the type list does not match its object"),
-         QT_TR_NOOP("Tools go by one or the other. State the same types and members at both places."),
-         typeListConflict},
+         QT_TR_NOOP("Tools go by one or the other. State the same types and members at both places."), typeListConflict,
+         "three sub-objects with an <array> of two", "three sub-objects with an <array> of three"},
         {"standard-object-type", WARNING,
          QT_TR_NOOP("An object of CiA 301 has another data type than the standard specifies"),
          QT_TR_NOOP("Masters access these objects with the length of the standard. Use its data type."),
-         standardObjectType},
+         standardObjectType, "<CANopenObject index=\"1000\" dataType=\"0006\">",
+         "<CANopenObject index=\"1000\" dataType=\"0007\">"},
     };
     return rules;
 }

@@ -2,6 +2,7 @@
 #define MVXXDDTOOLS_WALKS_H
 
 #include "CCanOpenNames.h"
+#include "canopen/PdoDoubts.h"
 #include "check/CCheckRules.h"
 
 /** @file
@@ -11,19 +12,6 @@
 constexpr bool isBetween(unsigned int number, unsigned int first, unsigned int last)
 {
     return number >= first && number <= last;
-}
-
-/** A text in quotes, with the line of the element that states it unless that is the given one. */
-inline SArgument quoted(const QString& text, const CXmlElement& source, const CXmlElement& element)
-{
-    return source.isNull() || source == element
-               ? CRemarks::filled({"\"%1\""}, {text})
-               : CRemarks::filled(CRemarks::say("\"%1\" (line %2)"), {text, SArgument::line(source.line())});
-}
-
-inline SArgument quoted(const SValueProperty& property, const SEntry& entry)
-{
-    return quoted(property.text, property.source, entry.element);
 }
 
 /** Calls for every object. */

@@ -5,12 +5,16 @@
 #include "canopen/CobIds.h"
 #include "canopen/PdoLayout.h"
 #include "names/DataTypes.h"
+#include "names/Hexadecimal.h"
+#include "names/NFormatWords.h"
+#include "names/Objects.h"
 
 #include <QSet>
 
 #include <algorithm>
 #include <limits>
 
+using namespace NFormatWords;
 using namespace NIso15745Tags;
 
 namespace
@@ -23,37 +27,23 @@ constexpr int MAX_VALUES = 20000;
 
 constexpr unsigned int MICROSECONDS = 1000; // In a millisecond
 
-constexpr unsigned int SYNC_COB_ID = 0x1005;
-constexpr unsigned int SYNC_CYCLE = 0x1006;
-constexpr unsigned int EMCY_COB_ID = 0x1014;
-constexpr unsigned int HEARTBEAT_TIME = 0x1017;
-
-// What an object holds as a number; nothing where it is not there or holds none.
-std::optional<unsigned int> numberIn(const CDescription& description, unsigned int index, unsigned int nodeId)
-{
-    const SEntry* const entry = description.dictionary().object(index);
-    const std::optional<CValue> value = entry == nullptr ? std::nullopt : entry->current();
-    return value ? value->at(nodeId).unsigned32() : std::nullopt;
-}
-
-QString joined(QStringList texts)
-{
-    texts.removeAll(QString());
-    return texts.join(QLatin1String(", "));
-}
-
 // A file says the same whoever writes it.
 QString englishText(const QList<CXddLabel>& labels)
 {
     return dbcText(CRemarks::cut(CXddLabel::chosen(labels, QStringLiteral("en"))));
 }
 
-// In milliseconds, at least one where there is a time at all.
+// A time in milliseconds, up to the largest that the form can say.
+unsigned int cycle(quint64 milliseconds)
+{
+    return unsigned(std::min<quint64>(milliseconds, quint64(std::numeric_limits<int>::max())));
+}
+
+// At least one millisecond where there is a time at all.
 unsigned int milliseconds(quint64 microseconds)
 {
     const quint64 rounded = (microseconds + MICROSECONDS / 2) / MICROSECONDS;
-    const auto largest = quint64(std::numeric_limits<int>::max());
-    return microseconds == 0 ? 0 : unsigned(std::min(std::max<quint64>(rounded, 1), largest));
+    return microseconds == 0 ? 0 : cycle(std::max<quint64>(rounded, 1));
 }
 
 // How often a TPDO is sent. What is not sent by time has no cycle, and the timer of an RPDO is a deadline.
@@ -62,7 +52,7 @@ unsigned int cycleTimeOf(const CXddPdo& pdo, unsigned int syncCycle)
     const bool isByEvent = pdo.mTransmission == CXddPdo::TRANSMISSION_EVENT_MANUFACTURER
                            || pdo.mTransmission == CXddPdo::TRANSMISSION_EVENT_PROFILE;
     return !pdo.mIsTransmit ? 0
-           : isByEvent      ? pdo.mEventTimer
+           : isByEvent      ? cycle(pdo.mEventTimer)
            : pdo.mTransmission == CXddPdo::TRANSMISSION_CYCLIC
                ? milliseconds(quint64(*pdo.mTransmissionType) * syncCycle)
                : 0;
@@ -72,16 +62,17 @@ QString commentOf(const CXddPdo& pdo)
 {
     const QString type =
         pdo.mTransmissionType ? QStringLiteral("transmission type %1").arg(*pdo.mTransmissionType) : QString();
-    const QString inhibit = pdo.mInhibitTime == 0
-                                ? QString()
-                                : QStringLiteral("inhibit time %1 ms").arg(dbcNumber(pdo.mInhibitTime / 1000.0));
+    const QString inhibit =
+        pdo.mInhibitTime == 0 ? QString()
+                              : QStringLiteral("inhibit time %1 ms").arg(dbcNumber(double(pdo.mInhibitTime) / 1000.0));
     const QString timer = pdo.mEventTimer == 0 ? QString()
                           : pdo.mIsTransmit    ? QStringLiteral("event timer %1 ms").arg(pdo.mEventTimer)
                                                : QStringLiteral("deadline %1 ms").arg(pdo.mEventTimer);
     const QString sync = pdo.mSyncStart == 0 ? QString() : QStringLiteral("SYNC start %1").arg(pdo.mSyncStart);
-    return joined(
+    return joinedTexts(
         {CCanOpenNames::index(pdo.communicationIndex()), CCanOpenNames::index(pdo.mappingIndex()),
-         pdo.mIsEnabled ? QString() : QStringLiteral("disabled"), type, inhibit, timer, sync});
+         pdo.mIsEnabled ? QString() : QStringLiteral("disabled"), type, inhibit, timer, sync},
+        QLatin1String(", "));
 }
 
 SDbcSignal signalAt(const QString& name, int start, int bits, const QVector<QPair<QString, QString>>& values = {})
@@ -97,13 +88,8 @@ SDbcSignal signalAt(const QString& name, int start, int bits, const QVector<QPai
 // The physical value is (raw + offset) x multiplier, that of a DBC raw x factor + offset.
 void scale(SDbcSignal& signal, const CXddPdoField& field)
 {
-    const auto numberOf = [](const QString& text, double otherwise) {
-        bool ok = false;
-        const double number = text.trimmed().toDouble(&ok);
-        return ok ? number : otherwise;
-    };
-    const double multiplier = numberOf(field.mTexts.mMultiplier, 1);
-    const double offset = numberOf(field.mTexts.mOffset, 0) * multiplier;
+    const double multiplier = scaleOf(field.mTexts.mMultiplier, 1).value_or(1);
+    const double offset = scaleOf(field.mTexts.mOffset, 0).value_or(0) * multiplier;
     const bool isScaled = multiplier != 0 && !dbcNumber(multiplier).isEmpty() && !dbcNumber(offset).isEmpty();
     if (isScaled) {
         signal.factor = dbcNumber(multiplier);
@@ -225,11 +211,11 @@ bool areReadAlike(const SDbcSignal& left, const SDbcSignal& right)
 }
 } // namespace
 
-CDbcNetwork::SNode::SNode(const CDescription& opened, unsigned int id)
+CDbcNetwork::SNode::SNode(const CDescription& opened, const QList<CXddPdo>& itsPdos, unsigned int id)
     : description(opened)
     , nodeId(id)
     , names(opened.dictionary())
-    , pdos(layoutsOf(opened, id))
+    , pdos(itsPdos)
 {
     CXddRemark cause;
     cause.mKind = CXddRemark::KIND_LEFT;
@@ -243,15 +229,16 @@ CDbcNetwork::CDbcNetwork(const SDbcChoice& choice)
     , mValuesLeft(MAX_VALUES)
 {}
 
-void CDbcNetwork::add(const CDescription& description, unsigned int nodeId, const QString& fileName)
+void CDbcNetwork::add(
+    const CDescription& description, const QList<CXddPdo>& pdos, unsigned int nodeId, const QString& fileName)
 {
     const CXmlElement identity = description.body(EProfile::Device).child(TAG_DEVICE_IDENTITY);
     const QString vendor = identity.child(TAG_VENDOR_NAME).text().simplified();
     const QString product = identity.child(TAG_PRODUCT_NAME).text().simplified();
-    SNode node(description, nodeId);
+    SNode node(description, pdos, nodeId);
     const QString name = shortened(dbcName(product), MAX_PRODUCT);
     node.name = (name.isEmpty() ? QStringLiteral("Node") : name) + QLatin1Char('_') + QString::number(nodeId);
-    node.comment = dbcText(CRemarks::cut(joined({vendor, product, fileName})));
+    node.comment = dbcText(CRemarks::cut(joinedTexts({vendor, product, fileName}, QLatin1String(", "))));
     mNodes.push_back(std::move(node));
 }
 
@@ -331,7 +318,7 @@ void CDbcNetwork::addPdo(SNode& node, const CXddPdo& pdo)
     entered.message.bytes = pdo.bytes();
     entered.message.sender = pdo.mIsTransmit ? node.name : QString();
     entered.message.comment = commentOf(pdo);
-    entered.message.cycleTime = cycleTimeOf(pdo, numberIn(node.description, SYNC_CYCLE, node.nodeId).value_or(0));
+    entered.message.cycleTime = cycleTimeOf(pdo, syncCycleOf(node));
     for (const SDbcSignal& signal : signalsOfPdo(node, pdo)) {
         addSignal(entered, signal);
     }
@@ -341,6 +328,7 @@ QVector<SDbcSignal> CDbcNetwork::signalsOfPdo(SNode& node, const CXddPdo& pdo)
 {
     QVector<SDbcSignal> all = pdo.mIsMultiplexed ? multiplexedSignals() : QVector<SDbcSignal>();
     for (const CXddPdoField& field : pdo.mFields) {
+        remarkScale(node, placeOf(pdo, node.description.dictionary()), field);
         const SEntry* const entry = node.description.dictionary().variable(field.mIndex, field.mSubIndex);
         const SDbcName name = entry == nullptr ? CDbcNames::byIndex(field.mIndex, field.mIsSubObject, field.mSubIndex)
                                                : node.names.of(*entry);
@@ -351,6 +339,30 @@ QVector<SDbcSignal> CDbcNetwork::signalsOfPdo(SNode& node, const CXddPdo& pdo)
     }
     limitValues(node, placeOf(pdo, node.description.dictionary()), all);
     return all;
+}
+
+// What is no number is not applied.
+void CDbcNetwork::remarkScale(SNode& node, const SPlace& place, const CXddPdoField& field)
+{
+    const std::pair<QLatin1String, QString> texts[] = {
+        {ATTR_MULTIPLIER, field.mTexts.mMultiplier}, {ATTR_OFFSET, field.mTexts.mOffset}};
+    for (const auto& [name, text] : texts) {
+        if (!scaleOf(text, 0)) {
+            node.remarks.add(
+                place, CRemarks::say("%1 \"%2\" of %3 is not a number and is not applied"),
+                {name, text, field.entry()});
+        }
+    }
+}
+
+// That of the device that produces the SYNC, which others cannot know; its own where none does.
+unsigned int CDbcNetwork::syncCycleOf(const SNode& node) const
+{
+    const auto producer = std::find_if(mNodes.begin(), mNodes.end(), [](const SNode& one) {
+        return (one.description.dictionary().number(SYNC_COB_ID, 0, one.nodeId).value_or(0) & COB_ID_PRODUCES) != 0;
+    });
+    const SNode& source = producer == mNodes.end() ? node : *producer;
+    return source.description.dictionary().number(SYNC_CYCLE, 0, source.nodeId).value_or(0);
 }
 
 // A small table can be that of many signals.
@@ -405,7 +417,7 @@ void CDbcNetwork::remarkPdos(SNode& node) const
 {
     int empty = 0;
     for (const CXddPdo& pdo : qAsConst(node.pdos)) {
-        for (const CXddRemark& remark : pdo.mRemarks) {
+        for (const CXddRemark& remark : pdo.mDoubts) {
             if (pdo.mIsEnabled || pdo.bytes() > 0) {
                 node.remarks.add(remark);
             }
@@ -429,7 +441,7 @@ void CDbcNetwork::addServices()
 {
     addNetworkManagement();
     addSync();
-    for (const SNode& node : mNodes) {
+    for (SNode& node : mNodes) {
         addEmergency(node);
         addHeartbeat(node);
     }
@@ -468,31 +480,33 @@ void CDbcNetwork::addSync()
     message.name = QStringLiteral("SYNC");
     message.canId = unsigned(SYNC_CAN_ID);
     message.comment = QStringLiteral("Synchronisation");
-    bool isKnown = false;
-    for (const SNode& node : mNodes) {
-        const std::optional<unsigned int> cobId = numberIn(node.description, SYNC_COB_ID, node.nodeId);
+    SNode* known = nullptr;
+    for (SNode& node : mNodes) {
+        const std::optional<unsigned int> cobId = node.description.dictionary().number(SYNC_COB_ID, 0, node.nodeId);
         const bool isSender = cobId && (*cobId & COB_ID_PRODUCES) != 0;
-        if (!cobId || !message.sender.isEmpty() || (isKnown && !isSender)) {
+        if (!cobId || !message.sender.isEmpty() || (known != nullptr && !isSender)) {
             continue;
         }
-        isKnown = true;
+        known = &node;
         message.canId = unsigned(canIdOf(*cobId));
         message.isExtended = (*cobId & COB_ID_EXTENDED) != 0;
         if (isSender) {
             message.sender = node.name;
-            message.cycleTime = milliseconds(numberIn(node.description, SYNC_CYCLE, node.nodeId).value_or(0));
+            message.cycleTime =
+                milliseconds(node.description.dictionary().number(SYNC_CYCLE, 0, node.nodeId).value_or(0));
         }
     }
-    addIfFree(message);
+    const SEntry* const entry = known == nullptr ? nullptr : known->description.dictionary().object(SYNC_COB_ID);
+    addIfFree(message, known, entry == nullptr ? SPlace() : entry->place());
 }
 
-void CDbcNetwork::addEmergency(const SNode& node)
+void CDbcNetwork::addEmergency(SNode& node)
 {
-    if (node.description.dictionary().object(EMCY_COB_ID) == nullptr) {
+    const SEntry* const entry = node.description.dictionary().object(EMCY_COB_ID);
+    if (entry == nullptr) {
         return;
     }
-    const unsigned int cobId =
-        numberIn(node.description, EMCY_COB_ID, node.nodeId).value_or(unsigned(EMCY_CAN_ID) + node.nodeId);
+    const unsigned int cobId = entry->number(node.nodeId).value_or(unsigned(EMCY_CAN_ID) + node.nodeId);
     if ((cobId & COB_ID_NOT_VALID) != 0) {
         return;
     }
@@ -508,17 +522,17 @@ void CDbcNetwork::addEmergency(const SNode& node)
         signalAt(QStringLiteral("Error_register"), 16, 8),
         signalAt(QStringLiteral("Manufacturer_error"), 24, 40),
     };
-    addIfFree(message);
+    addIfFree(message, &node, *entry);
 }
 
-void CDbcNetwork::addHeartbeat(const SNode& node)
+void CDbcNetwork::addHeartbeat(SNode& node)
 {
     SDbcMessage message;
     message.canId = unsigned(HEARTBEAT_CAN_ID) + node.nodeId;
     message.name = node.name + QLatin1String("_Heartbeat");
     message.bytes = 1;
     message.sender = node.name;
-    message.cycleTime = numberIn(node.description, HEARTBEAT_TIME, node.nodeId).value_or(0);
+    message.cycleTime = cycle(node.description.dictionary().number(HEARTBEAT_TIME, 0, node.nodeId).value_or(0));
     message.comment = QStringLiteral("Heartbeat, boot-up and node guarding");
     message.signalList = {
         signalAt(
@@ -529,12 +543,19 @@ void CDbcNetwork::addHeartbeat(const SNode& node)
              {QStringLiteral("127"), QStringLiteral("Pre-operational")}}),
         signalAt(QStringLiteral("Toggle"), 7, 1),
     };
-    addIfFree(message);
+    addIfFree(message, &node);
 }
 
-void CDbcNetwork::addIfFree(const SDbcMessage& message)
+// A service that the CAN-ID of another message takes the place of is remarked with the node that has it.
+void CDbcNetwork::addIfFree(const SDbcMessage& message, SNode* node, const SPlace& place)
 {
     SEntered entered;
     entered.message = message;
-    mMessages.emplace(Key(message.isExtended, message.canId), entered);
+    entered.by = message.name;
+    const auto [found, isFree] = mMessages.emplace(Key(message.isExtended, message.canId), entered);
+    if (!isFree && node != nullptr) {
+        node->remarks.add(
+            place, CRemarks::say("%1 is left out: CAN-ID %2 is that of %3"),
+            {message.name, hexadecimalText(message.canId, message.isExtended ? 8 : 3), found->second.by});
+    }
 }

@@ -25,7 +25,7 @@ public:
     explicit CDbcNetwork(const SDbcChoice& choice);
 
     /** Adds a node; its description has to outlive this object. @p fileName is what comments call its file. */
-    void add(const CDescription& description, unsigned int nodeId, const QString& fileName);
+    void add(const CDescription& description, const QList<CXddPdo>& pdos, unsigned int nodeId, const QString& fileName);
 
     /** The whole file. To be called once, behind the nodes. */
     QByteArray text();
@@ -36,7 +36,7 @@ public:
 private:
     struct SNode
     {
-        SNode(const CDescription& opened, unsigned int id);
+        SNode(const CDescription& opened, const QList<CXddPdo>& itsPdos, unsigned int id);
 
         const CDescription& description;
         unsigned int nodeId;
@@ -67,12 +67,14 @@ private:
     void remarkPdos(SNode& node) const;
 
     void addServices();
-    void addEmergency(const SNode& node);
-    void addHeartbeat(const SNode& node);
+    void addEmergency(SNode& node);
+    void addHeartbeat(SNode& node);
     void addNetworkManagement();
     void addSync();
-    void addIfFree(const SDbcMessage& message);
+    void addIfFree(const SDbcMessage& message, SNode* node = nullptr, const SPlace& place = {});
+    unsigned int syncCycleOf(const SNode& node) const;
 
+    static void remarkScale(SNode& node, const SPlace& place, const CXddPdoField& field);
     void limitValues(SNode& node, const SPlace& place, QVector<SDbcSignal>& all);
 
     SDbcChoice mChoice;

@@ -16,9 +16,10 @@ using namespace NEdsWords;
 
 namespace
 {
-const std::array ENTRY_KEYS = {PARAMETER_NAME,  OBJECT_TYPE, DATA_TYPE,  ACCESS_TYPE,     DEFAULT_VALUE,
-                               PDO_MAPPING,     LOW_LIMIT,   HIGH_LIMIT, PARAMETER_VALUE, SUB_NUMBER,
-                               COMPACT_SUB_OBJ, OBJ_FLAGS,   DENOTATION};
+// In the order of EEdsKey.
+const std::array<QLatin1String, KEY_COUNT> ENTRY_KEYS = {
+    PARAMETER_NAME, OBJECT_TYPE,     DATA_TYPE,  ACCESS_TYPE,     DEFAULT_VALUE, PDO_MAPPING, LOW_LIMIT,
+    HIGH_LIMIT,     PARAMETER_VALUE, SUB_NUMBER, COMPACT_SUB_OBJ, OBJ_FLAGS,     DENOTATION};
 
 // The keys of a section that an entry can have.
 class CEntryKeys
@@ -39,17 +40,16 @@ public:
 
     // The name, which may be empty, or null.
     const SEdsKey* name() const { return mKeys.front(); }
-
     // The key, or null where it is absent or empty.
-    const SEdsKey* given(QLatin1String name) const
+    const SEdsKey* given(EEdsKey name) const
     {
-        const auto place = std::find(ENTRY_KEYS.begin(), ENTRY_KEYS.end(), name) - ENTRY_KEYS.begin();
-        const SEdsKey* const key = mKeys[std::size_t(place)];
+        const SEdsKey* const key = mKeys[name];
         return key == nullptr || key->value.isEmpty() ? nullptr : key;
     }
+    int line(std::size_t name) const { return mKeys[name] == nullptr ? 0 : mKeys[name]->line; }
 
 private:
-    std::array<const SEdsKey*, ENTRY_KEYS.size()> mKeys = {};
+    std::array<const SEdsKey*, KEY_COUNT> mKeys = {};
 };
 
 // A word of AccessType, and what an entry with it and with a mapping states in an XDD.
@@ -106,19 +106,22 @@ SEdsEntry CEdsEntryReader::read(const SPlace& place, const SEdsSection& section)
     SEdsEntry entry;
     entry.line = section.line;
     entry.name = text(place, keys.name());
-    entry.objectCode = number(place, keys.given(OBJECT_TYPE), objectCodeNamed).value_or(0);
-    entry.dataType = number(place, keys.given(DATA_TYPE), dataTypeNamed).value_or(0);
-    entry.lowLimit = value(place, keys.given(LOW_LIMIT), entry.dataType);
-    entry.highLimit = value(place, keys.given(HIGH_LIMIT), entry.dataType);
-    readAccess(entry, place, keys.given(ACCESS_TYPE), keys.given(PDO_MAPPING));
-    entry.defaultValue = value(place, keys.given(DEFAULT_VALUE), entry.dataType);
-    entry.actualValue = value(place, keys.given(PARAMETER_VALUE), entry.dataType);
-    entry.denotation = text(place, keys.given(DENOTATION));
-    if (const std::optional<unsigned int> flags = number(place, keys.given(OBJ_FLAGS))) {
+    entry.objectCode = number(place, keys.given(KEY_OBJECT_TYPE), objectCodeNamed).value_or(0);
+    entry.dataType = number(place, keys.given(KEY_DATA_TYPE), dataTypeNamed).value_or(0);
+    entry.lowLimit = value(place, keys.given(KEY_LOW_LIMIT), entry.dataType);
+    entry.highLimit = value(place, keys.given(KEY_HIGH_LIMIT), entry.dataType);
+    readAccess(entry, place, keys.given(KEY_ACCESS_TYPE), keys.given(KEY_PDO_MAPPING));
+    entry.defaultValue = value(place, keys.given(KEY_DEFAULT_VALUE), entry.dataType);
+    entry.actualValue = value(place, keys.given(KEY_PARAMETER_VALUE), entry.dataType);
+    entry.denotation = text(place, keys.given(KEY_DENOTATION));
+    if (const std::optional<unsigned int> flags = number(place, keys.given(KEY_OBJ_FLAGS))) {
         entry.flags = flagDigits(*flags);
     }
-    if (const std::optional<unsigned int> count = number(place, keys.given(SUB_NUMBER))) {
+    if (const std::optional<unsigned int> count = number(place, keys.given(KEY_SUB_NUMBER))) {
         entry.subNumber = QString::number(*count);
+    }
+    for (std::size_t key = 0; key < KEY_COUNT; ++key) {
+        entry.lines[key] = keys.line(key);
     }
     mHasActualValue = mHasActualValue || !entry.actualValue.isNull();
     return entry;
@@ -129,7 +132,7 @@ void CEdsEntryReader::leaveUnknown(const SEdsKey& key)
     const QString name = key.name.toString();
     if (!key.value.isEmpty() && !mUnknown.contains(name.toLower())) {
         mUnknown << name.toLower();
-        mRemarks.left(
+        mRemarks.lost(
             {key.line}, QLatin1String("eds-key"), CRemarks::say("%1 is left out here and wherever else it stands"),
             {name});
     }

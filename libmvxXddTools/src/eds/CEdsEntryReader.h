@@ -5,6 +5,28 @@
 
 #include <QSet>
 
+#include <array>
+#include <optional>
+
+/** The keys of an object or sub-object. */
+enum EEdsKey
+{
+    KEY_PARAMETER_NAME,
+    KEY_OBJECT_TYPE,
+    KEY_DATA_TYPE,
+    KEY_ACCESS_TYPE,
+    KEY_DEFAULT_VALUE,
+    KEY_PDO_MAPPING,
+    KEY_LOW_LIMIT,
+    KEY_HIGH_LIMIT,
+    KEY_PARAMETER_VALUE,
+    KEY_SUB_NUMBER,
+    KEY_COMPACT_SUB_OBJ,
+    KEY_OBJ_FLAGS,
+    KEY_DENOTATION,
+    KEY_COUNT
+};
+
 /** What an object or sub-object states, as attributes of an XDD; a null text where it states nothing. */
 struct SEdsEntry
 {
@@ -21,6 +43,7 @@ struct SEdsEntry
     QLatin1String mapping;
     QString flags;
     QString subNumber;
+    std::array<int, KEY_COUNT> lines = {}; ///< Of the keys; 0 for one that is absent
 };
 
 /** Reads the keys of objects and sub-objects. What is not written as the form demands is added to the remarks. */

@@ -149,7 +149,7 @@ void CEdsReader::leaveSections()
         }
     }
     if (!left.isEmpty()) {
-        mRemarks.left(
+        mRemarks.lost(
             {line}, EDS_SECTION, CRemarks::say("left out, an XDD has no place for them: %1"),
             {left.join(QLatin1String(", "))});
     }
@@ -163,7 +163,7 @@ void CEdsReader::leaveKeys(const SEdsSection& section, std::initializer_list<QLa
             std::any_of(known.begin(), known.end(), [&key](QLatin1String name) { return key.is(name); });
         const bool isBitRate = key.name.startsWith(BAUD_RATE, Qt::CaseInsensitive);
         if (!isKnown && !isBitRate && !key.value.isEmpty() && edsNumberOf(key.value).value != 0U) {
-            mRemarks.left(
+            mRemarks.lost(
                 {key.line}, EDS_KEY, CRemarks::say("%1 is left out, an XDD has no place for it"),
                 {key.name.toString()});
         }
@@ -377,32 +377,35 @@ void CEdsReader::fromLists(SEdsEntry& entry, const SPlace& place, const SEdsObje
     };
     if (const SEdsKey* const name = listed(object.names, PARAMETER_NAME)) {
         entry.name = mEntries.text(place, name);
+        entry.lines[KEY_PARAMETER_NAME] = name->line;
     }
     if (const SEdsKey* const value = listed(object.values, PARAMETER_VALUE)) {
         entry.actualValue = mEntries.value(place, value, entry.dataType);
+        entry.lines[KEY_PARAMETER_VALUE] = value->line;
         mHasValueList = true;
     }
     if (const SEdsKey* const denotation = listed(object.denotations, DENOTATION)) {
         entry.denotation = mEntries.text(place, denotation);
+        entry.lines[KEY_DENOTATION] = denotation->line;
     }
 }
 
 void CEdsReader::writeEntry(const SEdsEntry& entry)
 {
-    mXdd.attribute(ATTR_NAME, entry.name);
-    mXdd.attribute(ATTR_OBJECT_TYPE, QString::number(entry.objectCode));
+    mXdd.attribute(ATTR_NAME, entry.name, entry.lines[KEY_PARAMETER_NAME]);
+    mXdd.attribute(ATTR_OBJECT_TYPE, QString::number(entry.objectCode), entry.lines[KEY_OBJECT_TYPE]);
     if (entry.dataType != 0) {
-        mXdd.attribute(ATTR_DATA_TYPE, dataTypeText(entry.dataType));
+        mXdd.attribute(ATTR_DATA_TYPE, dataTypeText(entry.dataType), entry.lines[KEY_DATA_TYPE]);
     }
-    mXdd.attribute(ATTR_LOW_LIMIT, entry.lowLimit);
-    mXdd.attribute(ATTR_HIGH_LIMIT, entry.highLimit);
-    mXdd.attribute(ATTR_ACCESS_TYPE, entry.access);
-    mXdd.attribute(ATTR_DEFAULT_VALUE, entry.defaultValue);
-    mXdd.attribute(ATTR_ACTUAL_VALUE, entry.actualValue);
-    mXdd.attribute(ATTR_DENOTATION, entry.denotation);
-    mXdd.attribute(ATTR_PDO_MAPPING, entry.mapping);
-    mXdd.attribute(ATTR_OBJ_FLAGS, entry.flags);
-    mXdd.attribute(ATTR_SUB_NUMBER, entry.subNumber);
+    mXdd.attribute(ATTR_LOW_LIMIT, entry.lowLimit, entry.lines[KEY_LOW_LIMIT]);
+    mXdd.attribute(ATTR_HIGH_LIMIT, entry.highLimit, entry.lines[KEY_HIGH_LIMIT]);
+    mXdd.attribute(ATTR_ACCESS_TYPE, entry.access, entry.lines[KEY_ACCESS_TYPE]);
+    mXdd.attribute(ATTR_DEFAULT_VALUE, entry.defaultValue, entry.lines[KEY_DEFAULT_VALUE]);
+    mXdd.attribute(ATTR_ACTUAL_VALUE, entry.actualValue, entry.lines[KEY_PARAMETER_VALUE]);
+    mXdd.attribute(ATTR_DENOTATION, entry.denotation, entry.lines[KEY_DENOTATION]);
+    mXdd.attribute(ATTR_PDO_MAPPING, entry.mapping, entry.lines[KEY_PDO_MAPPING]);
+    mXdd.attribute(ATTR_OBJ_FLAGS, entry.flags, entry.lines[KEY_OBJ_FLAGS]);
+    mXdd.attribute(ATTR_SUB_NUMBER, entry.subNumber, entry.lines[KEY_SUB_NUMBER]);
 }
 
 // The format has the seven types that CiA 301 has as dummies.
@@ -420,7 +423,7 @@ void CEdsReader::writeDummyUsage()
             const QString entry = DUMMY + QString::number(type) + QLatin1String(isSet(&key) ? "=1" : "=0");
             mXdd.element(TAG_DUMMY, key.line, QString(), ATTR_ENTRY, entry);
         } else if (isSet(&key)) {
-            mRemarks.left(
+            mRemarks.lost(
                 {key.line}, EDS_KEY, CRemarks::say("%1 is left out, an XDD has no place for it"),
                 {key.name.toString()});
         }
@@ -490,7 +493,8 @@ void CEdsReader::writeFlag(QLatin1String attribute, const SEdsKey* key)
 {
     if (key != nullptr) {
         const std::optional<unsigned int> number = edsNumberOf(key->value).value;
-        mXdd.attribute(attribute, number ? (*number != 0 ? VALUE_TRUE : VALUE_FALSE) : key->value.toString());
+        const QString text = number ? QString(*number != 0 ? VALUE_TRUE : VALUE_FALSE) : key->value.toString();
+        mXdd.attribute(attribute, text, key->line);
     }
 }
 
@@ -499,8 +503,18 @@ void CEdsReader::writeNumber(QLatin1String attribute, const SEdsKey* key)
 {
     if (key != nullptr) {
         const std::optional<unsigned int> number = edsNumberOf(key->value).value;
-        mXdd.attribute(attribute, number ? QString::number(*number) : key->value.toString());
+        mXdd.attribute(attribute, number ? QString::number(*number) : key->value.toString(), key->line);
     }
+}
+
+// What an XDD has no place for, but others ask for.
+SEdsExtras CEdsReader::extras() const
+{
+    SEdsExtras extras;
+    if (const SEdsKey* const revision = mFile.section(DEVICE_INFO).given(REVISION_NUMBER)) {
+        extras.revisionNumber = edsNumberOf(revision->value).value;
+    }
+    return extras;
 }
 
 // The standard writes the section with one m, many others with two.

@@ -1,6 +1,7 @@
 #ifndef MVXXDDTOOLS_CEDSREADER_H
 #define MVXXDDTOOLS_CEDSREADER_H
 
+#include "canopen/CDescription.h"
 #include "eds/CEdsEntryReader.h"
 #include "eds/CEdsObjects.h"
 #include "eds/CXddText.h"
@@ -24,6 +25,9 @@ public:
 
     /** The rules of the checker that comments switch off. */
     const std::vector<SSuppression>& suppressions() const { return mFile.suppressions(); }
+
+    /** What it says that the XDD has no place for. */
+    SEdsExtras extras() const;
 
     /** True for a DCF: a file with what is configured. */
     bool isDcf() const;

@@ -270,7 +270,7 @@ void CEdsWriter::writeCommissioning()
     mSections.key(NODE_BAUD_RATE, number(unsigned(std::max<int>(mCommissioning->mBaudrate, 0))));
     mSections.key(NET_NUMBER, number(mCommissioning->mNetworkNumber));
     writeText(NETWORK_NAME, mNetworkBody, mCommissioning->mNetworkName);
-    mSections.key(CANOPEN_MANAGER, flagText(mCommissioning->mIsManager));
+    mSections.key(CANOPEN_MANAGER, flagText(mCommissioning->mIsManager.value_or(false)));
 }
 
 // All seven keys or none: a reader refuses a part of them.
@@ -344,8 +344,7 @@ void CEdsWriter::writeComposed(const SObject& object)
 void CEdsWriter::writeVariable(const SEntry& entry)
 {
     const bool isBlock = entry.objectCode == CODE_DOMAIN;
-    const unsigned int stated = mDescription.dictionary().typeOfVariable(entry);
-    const unsigned int type = stated != 0 ? stated : TYPE_DOMAIN;
+    const unsigned int type = entry.dataType.value != 0 ? entry.dataType.value : TYPE_DOMAIN;
     writeName(entry);
     mSections.key(OBJECT_TYPE, hexadecimalText(isBlock ? CODE_DOMAIN : CODE_VAR, 1));
     writeDataType(entry, type);
@@ -385,7 +384,9 @@ void CEdsWriter::writeName(const SEntry& entry)
 void CEdsWriter::writeDataType(const SEntry& entry, unsigned int type)
 {
     mSections.key(DATA_TYPE, hexadecimalText(type, 4));
-    if (entry.dataType.value == 0 && entry.objectCode != CODE_DOMAIN) {
+    const CXddValue::EOrigin origin = entry.dataType.origin;
+    const bool isStated = origin == CXddValue::ORIGIN_ENTRY || origin == CXddValue::ORIGIN_PARAMETER;
+    if ((!isStated || entry.dataType.value == 0) && entry.objectCode != CODE_DOMAIN) {
         lose(
             entry, QLatin1String("data-type"), CRemarks::say("it has no data type and is written as %1"),
             {CCanOpenNames::dataType(type)});

@@ -32,7 +32,7 @@ void CXddText::begin(QLatin1String element, int line)
     mIsInTag = true;
 }
 
-void CXddText::attribute(QLatin1String name, const QString& value)
+void CXddText::attribute(QLatin1String name, const QString& value, int line)
 {
     if (!value.isNull()) {
         mText += QLatin1Char(' ');
@@ -40,12 +40,13 @@ void CXddText::attribute(QLatin1String name, const QString& value)
         mText += QLatin1String("=\"");
         mText += escapedXml(allowedInXml(value));
         mText += QLatin1Char('"');
+        mAttributeLines.push_back(line);
     }
 }
 
-void CXddText::attribute(QLatin1String name, QLatin1String value)
+void CXddText::attribute(QLatin1String name, QLatin1String value, int line)
 {
-    attribute(name, value.isNull() ? QString() : QString(value));
+    attribute(name, value.isNull() ? QString() : QString(value), line);
 }
 
 void CXddText::hexadecimal(QLatin1String name, unsigned int number, int digits)

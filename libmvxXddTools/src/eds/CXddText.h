@@ -13,9 +13,10 @@ public:
     CXddText();
 
     void begin(QLatin1String element, int line);
-    /** An attribute of the element that was begun last; nothing for a null text. */
-    void attribute(QLatin1String name, const QString& value);
-    void attribute(QLatin1String name, QLatin1String value);
+    /** An attribute of the element that was begun last, from that line or from that of its element; nothing for a null
+     * text. */
+    void attribute(QLatin1String name, const QString& value, int line = 0);
+    void attribute(QLatin1String name, QLatin1String value, int line = 0);
     /** A number with at least so many hexadecimal digits. */
     void hexadecimal(QLatin1String name, unsigned int number, int digits);
     /** Ends the innermost elements. */
@@ -29,12 +30,15 @@ public:
     const QString& text() const { return mText; }
     /** The lines of the elements, in document order. */
     const std::vector<int>& lines() const { return mLines; }
+    /** The lines of the attributes, in document order; 0 for that of the element. */
+    const std::vector<int>& attributeLines() const { return mAttributeLines; }
 
 private:
     void beginLine();
 
     QString mText;
     std::vector<int> mLines;
+    std::vector<int> mAttributeLines;
     std::vector<QLatin1String> mOpen; // Elements
     bool mIsInTag = false;            // The start tag of the innermost element takes attributes
 };

@@ -163,7 +163,7 @@ void findInRevision(const CEdsFile& file, const Objects& objects, CRemarks& rema
     }
     const unsigned int number = *edsNumberOf(stated->value).value;
     if (value == nullptr && number != 0) {
-        remarks.left(
+        remarks.lost(
             {stated->line}, QLatin1String("eds-key"), CRemarks::say("%1 is left out, %2 does not have it"),
             {REVISION_NUMBER, CCanOpenNames::entry(0x1018, 3)});
     } else if (value != nullptr && edsNumberOf(value->value).value.value_or(number) != number) {

@@ -1,7 +1,7 @@
 #include "CXddChecker.h"
 
+#include "canopen/PdoDoubts.h"
 #include "check/CCheckRules.h"
-#include "check/Examples.h"
 #include "face/SOpened.h"
 #include "names/NFormatWords.h"
 
@@ -9,6 +9,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <array>
 
 using namespace NFormatWords;
 
@@ -21,38 +22,39 @@ std::vector<const CheckRules*> checkRuleTables()
             &CCheckRules::pdo(),    &CCheckRules::cobId(), &CCheckRules::network()};
 }
 
-// What another rule finds in an entry because a key of it was not taken, which is said already.
-QString consequenceOf(const CXddRemark& remark)
+// What follows from a key of an EDS that was not taken, which is said already.
+struct SConsequence
 {
-    const QString rule = remark.mRule == QLatin1String("access-word")  ? QStringLiteral("missing-access-type ")
-                         : remark.mRule == QLatin1String("eds-number") ? QStringLiteral("missing-data-type ")
-                                                                       : QString();
-    return rule.isEmpty() || remark.mKind != CXddRemark::KIND_LEFT ? QString() : rule + remark.entry();
-}
+    QLatin1String cause;
+    QLatin1String rule;
+};
+const std::array CONSEQUENCES = {
+    SConsequence{QLatin1String("access-word"), QLatin1String("missing-access-type")},
+    SConsequence{QLatin1String("eds-number"), QLatin1String("missing-data-type")},
+};
 
-// What was found while a file was read is a finding where a rule of the table has its ID.
-QSet<QString> addRead(const QList<CXddRemark>& remarks, CRemarks& findings)
+// Takes out what only follows from something else that is reported.
+void takeOutConsequences(const QList<CXddRemark>& read, const QSet<QString>& disabled, QList<CXddRemark>& findings)
 {
-    QHash<QString, CXddRemark::ESeverity> severities;
-    for (const CheckRules* const table : checkRuleTables()) {
-        for (const SCheckRule& rule : *table) {
-            severities.insert(QLatin1String(rule.id), rule.severity);
+    QSet<QString> said; // Rules and entries
+    for (const CXddRemark& remark : read) {
+        for (const SConsequence& row : CONSEQUENCES) {
+            if (remark.mRule == row.cause && remark.mKind == CXddRemark::KIND_LEFT && !disabled.contains(row.cause)) {
+                said << row.rule + remark.entry();
+            }
         }
     }
-    QSet<QString> consequences;
-    for (CXddRemark remark : remarks) {
-        consequences << consequenceOf(remark);
-        if (severities.contains(remark.mRule)) {
-            remark.mKind = CXddRemark::KIND_FINDING;
-            remark.mSeverity = severities.value(remark.mRule);
-            findings.add(remark);
-        }
+    const auto isSaid = [&said](const CXddRemark& finding) {
+        return said.contains(finding.mRule + finding.entry());
+    };
+    if (!said.isEmpty()) {
+        findings.erase(std::remove_if(findings.begin(), findings.end(), isSaid), findings.end());
     }
-    return consequences;
 }
 
 // Takes out the findings that comments hide. A comment that hides none is a finding itself.
-QList<CXddRemark> withoutHidden(const QList<CXddRemark>& findings, const std::vector<SSuppression>& suppressions)
+QList<CXddRemark> withoutHidden(
+    const QList<CXddRemark>& findings, const std::vector<SSuppression>& suppressions, const QSet<QString>& disabled)
 {
     QHash<int, std::vector<const SSuppression*>> byLine;
     for (const SSuppression& suppression : suppressions) {
@@ -82,7 +84,10 @@ QList<CXddRemark> withoutHidden(const QList<CXddRemark>& findings, const std::ve
         }
     }
     for (const SSuppression& suppression : suppressions) {
-        if (!used.contains(&suppression)) {
+        const bool isOfDisabled = std::any_of(disabled.begin(), disabled.end(), [&suppression](const QString& rule) {
+            return CXddRule::isNamed(rule, suppression.rule);
+        });
+        if (!used.contains(&suppression) && !isOfDisabled) {
             CXddRemark cause;
             cause.mKind = CXddRemark::KIND_FINDING;
             cause.mSeverity = CXddRemark::SEVERITY_NOTE;
@@ -111,43 +116,51 @@ bool hasTypedBody(const CDescription& description, CXddRemark& failure)
 }
 } // namespace
 
-QList<CXddRemark> CXddChecker::check(const CXddDocument& document)
+QList<CXddRemark> CXddChecker::check(const CXddDocument& document, const QStringList& disabledRules)
 {
     CXddRemark failure = document.failure();
-    if (!document.isOpen() || !hasTypedBody(openedOf(document).description, failure)) {
+    const SOpened* const found = openedOf(document);
+    if (found == nullptr || !hasTypedBody(found->description, failure)) {
         failure.mKind = CXddRemark::KIND_FINDING;
         return {failure};
     }
-    const SOpened& opened = openedOf(document);
+    const SOpened& opened = *found;
+    const CDescription& description = opened.description;
+    const QSet<QString> disabled(disabledRules.begin(), disabledRules.end());
+    // What was found elsewhere: while the file was read, and with its PDOs.
+    CRemarks others;
+    for (const SPdo& pdo : description.pdos()) {
+        addDoubts(pdo, description.dictionary(), description.commissioning().mNodeId, others);
+    }
+    QHash<QString, QList<CXddRemark>> ofRules;
+    for (const CXddRemark& remark : opened.remarks + others.inOrder()) {
+        ofRules[remark.mRule] << remark;
+    }
     CRemarks findings;
-    const QSet<QString> said = opened.remarks.isEmpty() ? QSet<QString>() : addRead(opened.remarks, findings);
-    const bool isXml = opened.description.form() == EForm::Xdd;
     for (const CheckRules* const table : checkRuleTables()) {
         for (const SCheckRule& rule : *table) {
+            if (disabled.contains(QLatin1String(rule.id))) {
+                continue;
+            }
+            const CXddRemark cause = rule.cause(CXddRemark::KIND_FINDING);
+            findings.setCause(cause);
+            for (CXddRemark& remark : ofRules[cause.mRule]) {
+                remark.mKind = cause.mKind;
+                remark.mSeverity = cause.mSeverity;
+                findings.add(remark);
+            }
             const bool isAboutXml = table == &CCheckRules::form();
-            if (rule.apply != nullptr && (isXml || !isAboutXml)) {
-                findings.setCause(rule.cause(CXddRemark::KIND_FINDING));
-                rule.apply(opened.description, findings);
+            if (rule.apply != nullptr && (description.isXdd() || !isAboutXml)) {
+                rule.apply(description, findings);
             }
         }
     }
-    QList<CXddRemark> found = findings.inOrder();
-    if (!said.isEmpty()) {
-        const auto isSaid = [&said](const CXddRemark& finding) {
-            return said.contains(finding.mRule + QLatin1Char(' ') + finding.entry());
-        };
-        found.erase(std::remove_if(found.begin(), found.end(), isSaid), found.end());
-    }
-    return opened.suppressions.empty() ? found : withoutHidden(found, opened.suppressions);
+    QList<CXddRemark> all = findings.inOrder();
+    takeOutConsequences(opened.remarks, disabled, all);
+    return opened.suppressions.empty() ? all : withoutHidden(all, opened.suppressions, disabled);
 }
 
 QList<CXddRule> CXddChecker::rules()
 {
-    QList<CXddRule> rules = shownRules(checkRuleTables());
-    for (CXddRule& rule : rules) {
-        const SExample& example = exampleOf(rule.mId);
-        rule.mWrong = QString::fromUtf8(example.wrong);
-        rule.mRight = QString::fromUtf8(example.right);
-    }
-    return rules;
+    return shownRules(checkRuleTables());
 }

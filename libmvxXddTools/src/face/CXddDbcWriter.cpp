@@ -18,10 +18,16 @@ CXddDbc CXddDbcWriter::write(const QList<CXddNode>& nodes, int options)
 {
     CDbcNetwork network({(options & OPTION_ALL) != 0, (options & OPTION_ONLY_PDOS) != 0});
     for (const CXddNode& node : nodes) {
-        network.add(openedOf(node.mDocument).description, node.mNodeId, QFileInfo(node.mDocument.name()).fileName());
+        if (const SOpened* const opened = openedOf(node.mDocument)) {
+            const QString fileName = QFileInfo(node.mDocument.name()).fileName();
+            network.add(opened->description, node.mDocument.pdos(node.mNodeId), node.mNodeId, fileName);
+        }
     }
     CXddDbc dbc;
     dbc.mText = network.text();
-    dbc.mRemarks = network.remarks();
+    QList<QList<CXddRemark>> remarks = network.remarks();
+    for (const CXddNode& node : nodes) {
+        dbc.mRemarks << (node.mDocument.isOpen() ? remarks.takeFirst() : QList<CXddRemark>());
+    }
     return dbc;
 }

@@ -1,7 +1,7 @@
 #include "CXddDocument.h"
 
-#include "CXmlValue.h"
-#include "NIso15745Tags.h"
+#include "canopen/Device.h"
+#include "canopen/PdoLayout.h"
 #include "eds/CEdsReader.h"
 #include "face/SOpened.h"
 #include "remarks/CRemarks.h"
@@ -13,24 +13,8 @@
 #include <cstring>
 #include <iterator>
 
-using namespace NIso15745Tags;
-
 namespace
 {
-bool anyHas(const std::vector<CXmlElement>& elements, QLatin1String attribute)
-{
-    return std::any_of(elements.begin(), elements.end(), [&](const CXmlElement& element) {
-        return !element.attribute(attribute).trimmed().isEmpty();
-    });
-}
-
-// A date that is not readable gives none.
-bool hasDate(const CDescription& description, EProfile kind)
-{
-    const QString text = description.body(kind).attribute(ATTR_FILE_CREATION_DATE);
-    return CXmlValue::toDate(text) || dateOf(text);
-}
-
 // Why a text cannot be one of sections, whatever it says; nothing for one that can.
 CXddSentence foreignText(const QString& text)
 {
@@ -41,7 +25,7 @@ CXddSentence foreignText(const QString& text)
 }
 
 // Reads an XDD. Returns null with the failure.
-std::shared_ptr<SOpened> openXdd(const QByteArray& bytes, CXddRemark& failure)
+std::unique_ptr<SOpened> openXdd(const QByteArray& bytes, CXddRemark& failure)
 {
     CEncodedText encoded;
     CXmlTree tree;
@@ -49,14 +33,14 @@ std::shared_ptr<SOpened> openXdd(const QByteArray& bytes, CXddRemark& failure)
     if (!encoded.decode(bytes, failure.mSentence) || !tree.read(encoded.text(), failure)) {
         return nullptr;
     }
-    auto opened = std::make_shared<SOpened>(std::move(encoded), std::move(tree), EForm::Xdd);
+    auto opened = std::make_unique<SOpened>(std::move(encoded), std::move(tree), CXddDevice::FORM_XDD);
     opened->suppressions = opened->tree.suppressions();
     failure.mRule = QStringLiteral("not-a-description");
-    return opened->description.isCanOpen(failure) ? opened : nullptr;
+    return opened->description.isCanOpen(failure) ? std::move(opened) : nullptr;
 }
 
 // Makes an XDD of an EDS. Returns null with the failure.
-std::shared_ptr<SOpened> openEds(const QByteArray& bytes, CXddRemark& failure)
+std::unique_ptr<SOpened> openEds(const QByteArray& bytes, CXddRemark& failure)
 {
     CEncodedText encoded;
     CXmlTree tree;
@@ -77,11 +61,12 @@ std::shared_ptr<SOpened> openEds(const QByteArray& bytes, CXddRemark& failure)
         return nullptr;
     }
     encoded.setText(reader.xdd().text());
-    if (!tree.readWritten(encoded.text(), reader.xdd().lines(), failure)) {
+    if (!tree.readWritten(encoded.text(), reader.xdd().lines(), reader.xdd().attributeLines(), failure)) {
         return nullptr;
     }
-    auto opened =
-        std::make_shared<SOpened>(std::move(encoded), std::move(tree), reader.isDcf() ? EForm::Dcf : EForm::Eds);
+    auto opened = std::make_unique<SOpened>(
+        std::move(encoded), std::move(tree), reader.isDcf() ? CXddDevice::FORM_DCF : CXddDevice::FORM_EDS,
+        reader.extras());
     opened->suppressions = reader.suppressions();
     opened->remarks = remarks.inOrder();
     return opened;
@@ -101,14 +86,16 @@ bool CXddDocument::isXml(const QByteArray& beginning)
 
 CXddDocument CXddDocument::open(const QByteArray& bytes, const QString& name)
 {
-    CXddDocument document;
-    document.mName = name;
-    document.mBytes = bytes;
-    document.mFailure.mLine = 1;
-    document.mOpened = isXml(bytes) ? openXdd(bytes, document.mFailure) : openEds(bytes, document.mFailure);
-    if (document.isOpen()) {
-        document.mFailure = CXddRemark();
+    const auto made = std::make_shared<SDocument>();
+    made->name = name;
+    made->bytes = bytes;
+    made->failure.mLine = 1;
+    made->opened = isXml(bytes) ? openXdd(bytes, made->failure) : openEds(bytes, made->failure);
+    if (made->opened) {
+        made->failure = CXddRemark();
     }
+    CXddDocument document;
+    document.mDocument = made;
     return document;
 }
 
@@ -119,9 +106,13 @@ CXddDocument CXddDocument::open(QIODevice& device, const QString& name)
     if (device.isOpen() && (file == nullptr || file->error() == QFileDevice::NoError)) {
         return open(bytes, name);
     }
+    const bool isFolder = !device.isOpen() && file != nullptr && QFileInfo(file->fileName()).isDir();
+    const auto made = std::make_shared<SDocument>();
+    made->name = name;
+    made->failure.mSentence =
+        isFolder ? CRemarks::filled(CRemarks::say("This is a folder.")) : CXddSentence(device.errorString());
     CXddDocument document;
-    document.mName = name;
-    document.mFailure.mSentence = CXddSentence(device.errorString());
+    document.mDocument = made;
     return document;
 }
 
@@ -129,92 +120,109 @@ CXddDocument CXddDocument::openFile(const QString& fileName)
 {
     QFile file(fileName);
     file.open(QIODevice::ReadOnly);
-    CXddDocument document = open(file, fileName);
-    if (!file.isOpen() && QFileInfo(fileName).isDir()) {
-        document.mFailure.mSentence = CRemarks::filled(CRemarks::say("This is a folder."));
-    }
-    return document;
+    return open(file, fileName);
 }
 
 bool CXddDocument::isOpen() const
 {
-    return mOpened != nullptr;
+    return openedOf(*this) != nullptr;
 }
 
 CXddRemark CXddDocument::failure() const
 {
-    return mFailure;
+    return mDocument ? mDocument->failure : CXddRemark();
 }
 
-CXddDocument::EForm CXddDocument::form() const
+CXddDevice::EForm CXddDocument::form() const
 {
-    if (!isOpen()) {
-        return FORM_NONE;
-    }
-    switch (mOpened->description.form()) {
-    case ::EForm::Eds:
-        return FORM_EDS;
-    case ::EForm::Dcf:
-        return FORM_DCF;
-    case ::EForm::Xdd:
-        break;
-    }
-    return FORM_XDD;
+    const SOpened* const opened = openedOf(*this);
+    return opened == nullptr ? CXddDevice::FORM_NONE : opened->description.form();
 }
 
 QList<CXddRemark> CXddDocument::remarks() const
 {
-    QList<CXddRemark> remarks;
-    if (isOpen()) {
-        std::copy_if(
-            mOpened->remarks.begin(), mOpened->remarks.end(), std::back_inserter(remarks),
-            [](const CXddRemark& remark) { return remark.mKind != CXddRemark::KIND_FINDING; });
-    }
-    return remarks;
+    const SOpened* const opened = openedOf(*this);
+    return opened == nullptr ? QList<CXddRemark>()
+                             : opened->remarksOf({CXddRemark::KIND_CHANGE, CXddRemark::KIND_LEFT});
 }
 
 QString CXddDocument::name() const
 {
-    return mName;
+    return mDocument ? mDocument->name : QString();
 }
 
 QByteArray CXddDocument::bytes() const
 {
-    return mBytes;
+    return mDocument ? mDocument->bytes : QByteArray();
 }
 
-bool CXddDocument::states(EItem item) const
+CXddDevice CXddDocument::device() const
 {
-    if (!isOpen()) {
-        return true;
-    }
-    const CDescription& description = mOpened->description;
-    const std::vector<CXmlElement> rates = description.bitRates();
-    switch (item) {
-    case ITEM_DEVICE_CREATION_DATE:
-        return hasDate(description, EProfile::Device);
-    case ITEM_NETWORK_CREATION_DATE:
-        return hasDate(description, EProfile::Network);
-    case ITEM_BAUD_RATE:
-        return anyHas(rates, ATTR_DEFAULT_VALUE);
-    case ITEM_SUPPORTED_BAUD_RATES:
-        return std::any_of(rates.begin(), rates.end(), [](const CXmlElement& baudRate) {
-            const std::vector<CXmlElement> supported = baudRate.children(TAG_SUPPORTED_BAUD_RATE);
-            return std::any_of(supported.begin(), supported.end(), [](const CXmlElement& rate) {
-                return bitRateOf(rate.attribute(ATTR_VALUE)) != CNetworkCanOpenProfile::BAUD_INVALID;
-            });
-        });
-    case ITEM_MANDATORY_OBJECTS:
-        return anyHas(description.objectLists(), ATTR_MANDATORY_OBJECTS);
-    case ITEM_OPTIONAL_OBJECTS:
-        return anyHas(description.objectLists(), ATTR_OPTIONAL_OBJECTS);
-    case ITEM_MANUFACTURER_OBJECTS:
-        break;
-    }
-    return anyHas(description.objectLists(), ATTR_MANUFACTURER_OBJECTS);
+    const SOpened* const opened = openedOf(*this);
+    return opened == nullptr ? CXddDevice() : deviceOf(opened->description);
 }
 
-const SOpened& openedOf(const CXddDocument& document)
+QList<CXddFact> CXddDocument::facts(const QString& language) const
 {
-    return *document.mOpened;
+    const SOpened* const opened = openedOf(*this);
+    return opened == nullptr ? QList<CXddFact>() : factsOf(device(), opened->description.dictionary(), language);
+}
+
+QList<CXddFact> CXddDocument::fileFacts() const
+{
+    return fileFactsOf(device());
+}
+
+QList<CXddEntry> CXddDocument::entries() const
+{
+    const SOpened* const opened = openedOf(*this);
+    return opened == nullptr ? QList<CXddEntry>() : shownEntries(opened->description.dictionary());
+}
+
+QList<CXddRemark> CXddDocument::leftOut() const
+{
+    const SOpened* const opened = openedOf(*this);
+    return opened == nullptr ? QList<CXddRemark>() : leftOutOf(opened->description.dictionary());
+}
+
+CXddEntry CXddDocument::entry(unsigned int index, std::optional<unsigned int> subIndex) const
+{
+    const SOpened* const opened = openedOf(*this);
+    const SEntry* const found = opened == nullptr ? nullptr : opened->description.dictionary().entry(index, subIndex);
+    return found == nullptr ? CXddEntry() : shownEntry(*found, opened->description.dictionary());
+}
+
+CXddEntryTexts CXddDocument::texts(unsigned int index, std::optional<unsigned int> subIndex) const
+{
+    const SOpened* const opened = openedOf(*this);
+    const SEntry* const found = opened == nullptr ? nullptr : opened->description.dictionary().entry(index, subIndex);
+    if (found == nullptr) {
+        return {};
+    }
+    const QMutexLocker lock(&opened->textsLock);
+    return opened->texts.of(*found);
+}
+
+QList<CXddPdo> CXddDocument::pdos(unsigned int nodeId) const
+{
+    const SOpened* const opened = openedOf(*this);
+    if (opened == nullptr) {
+        return {};
+    }
+    const QMutexLocker lock(&opened->textsLock);
+    return layoutsOf(opened->description, opened->texts, nodeId);
+}
+
+QList<CXddRemark> SOpened::remarksOf(std::initializer_list<CXddRemark::EKind> kinds) const
+{
+    QList<CXddRemark> found;
+    std::copy_if(remarks.begin(), remarks.end(), std::back_inserter(found), [&kinds](const CXddRemark& remark) {
+        return std::find(kinds.begin(), kinds.end(), remark.mKind) != kinds.end();
+    });
+    return found;
+}
+
+const SOpened* openedOf(const CXddDocument& document)
+{
+    return document.mDocument ? document.mDocument->opened.get() : nullptr;
 }

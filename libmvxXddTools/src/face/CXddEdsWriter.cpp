@@ -7,29 +7,30 @@ CXddEds::CXddEds() = default;
 
 namespace
 {
-CXddEds written(const CDescription& description, const CXddCommissioning* commissioning)
+CXddEds written(const CXddDocument& document, const CXddCommissioning* commissioning)
 {
-    const CEdsWriter writer(description, commissioning);
     CXddEds eds;
-    eds.mText = writer.bytes();
-    eds.mEntries = int(description.dictionary().entries().size());
-    eds.mIncomplete = writer.incompleteEntries();
-    eds.mLosses = writer.losses();
+    if (const SOpened* const opened = openedOf(document)) {
+        const CEdsWriter writer(opened->description, commissioning);
+        eds.mText = writer.bytes();
+        eds.mEntries = int(opened->description.dictionary().entries().size());
+        eds.mIncomplete = writer.incompleteEntries();
+        CRemarks losses; // What the XDD of an EDS does not say is not said again
+        for (const CXddRemark& loss : opened->remarksOf({CXddRemark::KIND_LOSS}) + writer.losses()) {
+            losses.add(loss);
+        }
+        eds.mLosses = losses.inOrder();
+    }
     return eds;
 }
 } // namespace
 
 CXddEds CXddEdsWriter::write(const CXddDocument& document)
 {
-    return written(openedOf(document).description, nullptr);
+    return written(document, nullptr);
 }
 
 CXddEds CXddEdsWriter::writeDcf(const CXddDocument& document, const CXddCommissioning& commissioning)
 {
-    return written(openedOf(document).description, &commissioning);
-}
-
-CXddCommissioning CXddEdsWriter::commissioning(const CXddDocument& document)
-{
-    return openedOf(document).description.commissioning();
+    return written(document, &commissioning);
 }

@@ -27,19 +27,25 @@ void apply(const std::vector<const NormalizeRules*>& tables, const CDescription&
 
 CXddCopy copyOf(const CXddDocument& document, CXmlEdits::ELayout layout)
 {
-    const SOpened& opened = openedOf(document);
+    CXddCopy copy;
+    const SOpened* const found = openedOf(document);
+    if (found == nullptr) {
+        copy.mLoads = false;
+        return copy;
+    }
+    const SOpened& opened = *found;
     CXmlEdits edits(opened.tree, layout);
     apply(normalizeRuleTables(), opened.description, edits);
     if (layout == CXmlEdits::ELayout::Indented) {
         edits.onlyRecord();
     }
     apply({&CNormalizeRules::load()}, opened.description, edits);
-    CXddCopy copy;
-    const bool isSame = edits.isEmpty() && document.form() == CXddDocument::FORM_XDD;
+    const bool isSame = edits.isEmpty() && document.form() == CXddDevice::FORM_XDD;
     copy.mText = isSame ? document.bytes() : opened.encoded.encode(edits.result());
     copy.mLoads = edits.isComplete();
     CRemarks remarks;
-    for (const CXddRemark& remark : document.remarks() + edits.remarks()) {
+    for (const CXddRemark& remark :
+         opened.remarksOf({CXddRemark::KIND_CHANGE, CXddRemark::KIND_LEFT, CXddRemark::KIND_LOSS}) + edits.remarks()) {
         remarks.add(remark);
     }
     copy.mRemarks = remarks.inOrder();
@@ -73,10 +79,10 @@ CXddCopy CXddNormalizer::normalize(const CXddDocument& document)
 
 CXddCopy CXddNormalizer::conform(const CXddDocument& document)
 {
-    if (document.form() != CXddDocument::FORM_XDD) {
+    if (document.form() != CXddDevice::FORM_XDD) {
         return normalize(document);
     }
-    const SOpened& opened = openedOf(document);
+    const SOpened& opened = *openedOf(document);
     CXmlEdits edits(opened.tree, CXmlEdits::ELayout::Indented);
     apply({&CNormalizeRules::conform()}, opened.description, edits);
     CXddCopy copy;
@@ -96,7 +102,7 @@ bool CXddNormalizer::load(
     }
     const CXddCopy copy = copyOf(document, CXmlEdits::ELayout::InLine);
     remarks = copy.mRemarks;
-    failure.mLine = openedOf(document).tree.root().line();
+    failure.mLine = openedOf(document)->tree.root().line();
     QString errorText;
     const bool isLoaded = loadBytes(copy.mText, document.name(), reader, errorText);
     failure.mSentence = CXddSentence(errorText);

@@ -1,14 +1,11 @@
 #include "CXddPage.h"
 
 #include "CXddChecker.h"
-#include "CXddFacts.h"
-#include "CXddNormalizer.h"
-#include "canopen/PdoLayout.h"
 #include "face/SOpened.h"
 #include "html/CPageWriter.h"
-#include "html/PageIndex.h"
 
 #include <QFileInfo>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -18,26 +15,24 @@ CXddPage CXddPage::write(const CXddDocument& document, const SOptions& options)
 {
     CXddPage result;
     result.mSource = QFileInfo(document.name()).fileName();
-    const std::unique_ptr<ICIso15745> reader(ICIso15745::create());
-    QList<CXddRemark> remarks;
-    if (!CXddNormalizer::load(document, *reader, remarks, result.mFailure)) {
+    result.mFailure = document.failure();
+    const SOpened* const opened = openedOf(document);
+    if (opened == nullptr) {
         return result;
     }
-    const CDescription& description = openedOf(document).description;
-    SPage page{*reader, description, result.mSource, document.bytes(), options.mLanguage};
-    page.nodeId = options.mNodeId != 0 ? options.mNodeId : description.commissioning().mNodeId;
+    SPage page{opened->description, result.mSource,    document.bytes(),
+               options.mLanguage,   document.device(), document.entries()};
     page.hasFindings = options.mHasFindings;
-    page.statesBitRates = document.states(CXddDocument::ITEM_SUPPORTED_BAUD_RATES);
-    page.identity = CXddFacts::identity(*reader, options.mLanguage);
-    page.files = CXddFacts::files(*reader, document);
-    page.pdos = layoutsOf(description, page.nodeId);
+    page.facts = document.facts(options.mLanguage);
+    page.fileFacts = document.fileFacts();
+    page.pdos = document.pdos(options.mNodeId);
     page.findings = CXddChecker::check(document);
     result.mText = CPageWriter(page).bytes();
     result.mProduct = page.title();
-    result.mVendor = reader->deviceProfile().mVendorName.mValue;
-    result.mEntries = page.entries();
-    result.mPdos = int(std::count_if(
-        page.pdos.begin(), page.pdos.end(), [](const CXddPdo& pdo) { return pdo.mIsEnabled && pdo.bytes() > 0; }));
+    result.mVendor = page.device.mDeviceProfile.identity(QStringLiteral("vendorName"));
+    result.mEntries = int(page.entries.size());
+    result.mPdos =
+        int(std::count_if(page.pdos.begin(), page.pdos.end(), [](const CXddPdo& pdo) { return pdo.isInUse(); }));
     result.mErrors = page.count(CXddRemark::SEVERITY_ERROR);
     result.mWarnings = page.count(CXddRemark::SEVERITY_WARNING);
     return result;
@@ -45,10 +40,26 @@ CXddPage CXddPage::write(const CXddDocument& document, const SOptions& options)
 
 QByteArray CXddPage::index(const QList<CXddPage>& pages, const QString& language)
 {
-    QList<SIndexRow> rows;
-    for (const CXddPage& page : pages) {
-        rows << SIndexRow{page.mFileName, page.mSource, page.mProduct, page.mVendor,
-                          page.mEntries,  page.mPdos,   page.mErrors,  page.mWarnings};
+    CHtml html;
+    CPageWriter::begin(html, CPageWriter::tr("CANopen devices"), language, QByteArray());
+    html.open("main").line().element("h1", CPageWriter::tr("CANopen devices")).line();
+    html.open("div", {{"class", QStringLiteral("wide")}}).open("table").open("thead").open("tr");
+    for (const QString& head :
+         {CPageWriter::tr("Product"), CPageWriter::tr("Vendor"), CPageWriter::tr("File"), CPageWriter::tr("Entries"),
+          CPageWriter::tr("PDOs in use"), CPageWriter::tr("Errors"), CPageWriter::tr("Warnings")}) {
+        html.element("th", head, {{"scope", QStringLiteral("col")}});
     }
-    return pageIndex(rows, language);
+    html.close().close().line().open("tbody").line();
+    for (const CXddPage& page : pages) {
+        // In front of a colon there would be a scheme.
+        const QString address = QLatin1String("./") + QString::fromLatin1(QUrl::toPercentEncoding(page.mFileName));
+        html.open("tr").open("td").element("a", cutForPage(page.mProduct), {{"href", address}}).close();
+        html.element("td", cutForPage(page.mVendor)).element("td", cutForPage(page.mSource));
+        for (const int number : {page.mEntries, page.mPdos, page.mErrors, page.mWarnings}) {
+            html.element("td", QString::number(number));
+        }
+        html.close().line();
+    }
+    html.close().close().close().line().close().line().close().close().line();
+    return html.bytes();
 }

@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <tuple>
 
 namespace
 {
@@ -36,7 +37,7 @@ CDictionaryTables::CDictionaryTables(CHtml& html, const SPage& page)
     : mHtml(html)
     , mPage(page)
     , mTexts(page.description)
-    , mIsLarge(page.entries() >= LARGE)
+    , mIsLarge(page.entries.size() >= LARGE)
     , mTextsLeft(page.bytes.size() + LEAST_TEXTS)
 {
     for (const CXddPdo& pdo : page.pdos) {
@@ -69,7 +70,7 @@ QList<SDictionaryRange> CDictionaryTables::ranges(const SPage& page)
         {QStringLiteral("other"), tr("Other objects"), tr("Other"), 0xA000, 0xFFFFFFFF},
     };
     QList<SDictionaryRange> ranges;
-    const auto& objects = page.reader.networkProfile().mObjects;
+    const QMap<unsigned int, std::size_t>& objects = page.description.dictionary().byIndex();
     for (const SDictionaryRange& range : all) {
         const auto first = objects.lowerBound(range.first);
         if (first != objects.end() && first.key() <= range.last) {
@@ -95,14 +96,14 @@ void CDictionaryTables::write()
 // The parameters of PDOs are folded, as the cards show what they mean.
 void CDictionaryTables::writeRange(const SDictionaryRange& range)
 {
-    Objects before;
-    Objects ofPdos;
-    Objects behind;
-    const auto& objects = mPage.reader.networkProfile().mObjects;
-    for (auto object = objects.lowerBound(range.first); object != objects.end() && object.key() <= range.last;
-         ++object) {
-        const bool isOfPdo = object.key() >= FIRST_PDO_OBJECT && object.key() <= LAST_PDO_OBJECT;
-        (isOfPdo ? ofPdos : object.key() < FIRST_PDO_OBJECT ? before : behind) << &*object;
+    Rows before;
+    Rows ofPdos;
+    Rows behind;
+    for (const CXddEntry& entry : mPage.entries) {
+        if (entry.mIndex >= range.first && entry.mIndex <= range.last) {
+            const bool isOfPdo = entry.mIndex >= FIRST_PDO_OBJECT && entry.mIndex <= LAST_PDO_OBJECT;
+            (isOfPdo ? ofPdos : entry.mIndex < FIRST_PDO_OBJECT ? before : behind) << &entry;
+        }
     }
     mHtml.open("div", {{"class", QStringLiteral("block")}, {"id", range.id}}).line();
     mHtml.element("h2", range.name).line();
@@ -121,18 +122,23 @@ void CDictionaryTables::writeRange(const SDictionaryRange& range)
     mHtml.close().line();
 }
 
-void CDictionaryTables::writeTables(const Objects& objects)
+void CDictionaryTables::writeTables(const Rows& rows)
 {
-    if (objects.isEmpty()) {
+    if (rows.isEmpty()) {
         return;
     }
     beginTable();
-    for (const CCanOpenObject* const object : objects) {
+    for (int first = 0; first < rows.size();) {
+        int end = first + 1;
+        while (end < rows.size() && rows[end]->mSubIndex) {
+            ++end;
+        }
         if (mIsLarge && mRows >= CHUNK) {
             endTable();
             beginTable();
         }
-        writeObject(*object);
+        writeObject(rows, first, end);
+        first = end;
     }
     endTable();
 }
@@ -154,94 +160,88 @@ void CDictionaryTables::endTable()
     mHtml.close().close().close().line();
 }
 
-void CDictionaryTables::writeObject(const CCanOpenObject& object)
+void CDictionaryTables::writeObject(const Rows& rows, int first, int end)
 {
-    writeRow(object.mIndex, std::nullopt, object, rowId(object.mIndex, std::nullopt));
+    writeRow(*rows[first], rowId(rows[first]->mIndex, std::nullopt));
     mSubIndexes.clear();
-    const int count = int(object.mSubObjects.size());
-    for (int i = 0; i < count;) {
-        int end = i + 1;
-        while (end < count && isAlike(object, i, end)) {
-            ++end;
+    for (int i = first + 1; i < end;) {
+        int next = i + 1;
+        while (next < end && isAlike(*rows[i], *rows[next])) {
+            ++next;
         }
-        writeSubObject(object, i);
-        if (end - i >= MIN_ALIKE) {
-            writeFold(object, i + 1, end, tr("%n more like this", nullptr, end - i - 1));
-            i = end;
-        } else if (++i >= MAX_ROWS_OF_OBJECT && count - i >= MIN_ALIKE) {
-            writeFold(object, i, count, tr("%n further sub-object(s)", nullptr, count - i));
+        writeSubObject(*rows[i]);
+        if (next - i >= MIN_ALIKE) {
+            writeFold(rows, i + 1, next, tr("%n more like this", nullptr, next - i - 1));
+            i = next;
+        } else if (++i - first > MAX_ROWS_OF_OBJECT && end - i >= MIN_ALIKE) {
+            writeFold(rows, i, end, tr("%n further sub-object(s)", nullptr, end - i));
             return;
         }
     }
 }
 
 // Rows that are folded stand in a table of their own.
-void CDictionaryTables::writeFold(const CCanOpenObject& object, int first, int end, const QString& text)
+void CDictionaryTables::writeFold(const Rows& rows, int first, int end, const QString& text)
 {
     mHtml.open("tr", {{"class", QStringLiteral("in")}});
     mHtml.open("td", {{"class", QStringLiteral("in")}, {"colspan", QStringLiteral("7")}}).open("details");
     mHtml.element("summary", text).line();
-    const int rows = mRows;
+    const int before = mRows;
     const bool isLarge = mIsLarge;
     mIsLarge = false; // A link does not lead exactly into what is not laid out
     beginTable();
     for (int i = first; i < end; ++i) {
-        writeSubObject(object, i);
+        writeSubObject(*rows[i]);
     }
     endTable();
     mIsLarge = isLarge;
-    mRows = rows + 1;
+    mRows = before + 1;
     mHtml.close().close().close().line();
 }
 
 // A sub-index that is there twice has an ID with a number.
-void CDictionaryTables::writeSubObject(const CCanOpenObject& object, int number)
+void CDictionaryTables::writeSubObject(const CXddEntry& entry)
 {
-    const CCanOpenSubObject& subObject = object.mSubObjects[number];
-    const int same = ++mSubIndexes[subObject.mIndex];
-    const QString id = rowId(object.mIndex, subObject.mIndex);
-    writeRow(object.mIndex, subObject.mIndex, subObject, same == 1 ? id : QStringLiteral("%1-%2").arg(id).arg(same));
+    const int same = ++mSubIndexes[*entry.mSubIndex];
+    const QString id = rowId(entry.mIndex, entry.mSubIndex);
+    writeRow(entry, same == 1 ? id : QStringLiteral("%1-%2").arg(id).arg(same));
 }
 
-void CDictionaryTables::writeRow(
-    unsigned int index, std::optional<unsigned int> subIndex, const CCanOpenSubObject& entry, const QString& id)
+void CDictionaryTables::writeRow(const CXddEntry& entry, const QString& id)
 {
     ++mRows;
-    const QString address = CCanOpenNames::entry(index, subIndex);
     mHtml.open("tr", {{"id", id}});
-    mHtml.open("td").link(id, address).close();
-    writeName(index, subIndex, entry);
-    mHtml.element("td", CCanOpenNames::type(entry)).element("td", CCanOpenNames::access(entry));
-    writePdo(address, entry);
+    mHtml.open("td").link(id, entry.address()).close();
+    writeName(entry);
+    mHtml.element("td", entry.typeText()).element("td", entry.accessText());
+    writePdo(entry);
     writeDefault(entry);
     mHtml.element("td", rangeText(entry)).close().line();
 }
 
-void CDictionaryTables::writeName(
-    unsigned int index, std::optional<unsigned int> subIndex, const CCanOpenSubObject& entry)
+void CDictionaryTables::writeName(const CXddEntry& entry)
 {
     mHtml.open("td").text(cutForPage(entry.mName));
     if (!entry.mDenotation.isEmpty()) {
         mHtml.element("p", tr("Denotation: %1").arg(cutForPage(entry.mDenotation)));
     }
-    writeTexts(index, subIndex, entry);
-    writeMapped(index, subIndex);
+    writeTexts(entry);
+    writeMapped(entry);
     if (mPage.hasFindings) {
-        writeFindings(index, subIndex);
+        writeFindings(entry);
     }
     mHtml.close();
 }
 
-void CDictionaryTables::writeTexts(
-    unsigned int index, std::optional<unsigned int> subIndex, const CCanOpenSubObject& entry)
+CXddEntryTexts CDictionaryTables::textsOf(const CXddEntry& entry)
 {
-    const CDictionary& dictionary = mPage.description.dictionary();
-    const SEntry* const described = subIndex ? dictionary.subObject(index, *subIndex) : dictionary.object(index);
-    mUnit.clear();
-    if (described == nullptr) {
-        return;
-    }
-    const CXddEntryTexts texts = mTexts.of(*described);
+    const SEntry* const described = mPage.description.dictionary().entry(entry.mIndex, entry.mSubIndex);
+    return described == nullptr ? CXddEntryTexts() : mTexts.of(*described);
+}
+
+void CDictionaryTables::writeTexts(const CXddEntry& entry)
+{
+    const CXddEntryTexts texts = textsOf(entry);
     mUnit = cutForPage(CXddLabel::chosen(texts.mUnits, mPage.language));
     mTextsLeft -= texts.characters();
     if (mTextsLeft < 0) {
@@ -276,10 +276,10 @@ void CDictionaryTables::writeLabels(const QList<CXddLabel>& labels, const QStrin
 }
 
 // A range without a label that is that of the limits is shown there.
-void CDictionaryTables::writeValues(const QList<CXddAllowedValue>& values, const CCanOpenSubObject& entry)
+void CDictionaryTables::writeValues(const QList<CXddAllowedValue>& values, const CXddEntry& entry)
 {
     const auto isShown = [&entry](const CXddAllowedValue& value) {
-        return !value.mLabels.isEmpty() || value.mLow != entry.mLowLimit || value.mHigh != entry.mHighLimit;
+        return !value.mLabels.isEmpty() || value.mLow != entry.mLowLimit.mText || value.mHigh != entry.mHighLimit.mText;
     };
     if (std::none_of(values.begin(), values.end(), isShown)) {
         return;
@@ -296,18 +296,17 @@ void CDictionaryTables::writeValues(const QList<CXddAllowedValue>& values, const
     mHtml.close();
 }
 
-void CDictionaryTables::writeMapped(unsigned int index, std::optional<unsigned int> subIndex)
+void CDictionaryTables::writeMapped(const CXddEntry& entry)
 {
-    const QString mapped = mMapped.value(CCanOpenNames::entry(index, subIndex));
+    const QString mapped = mMapped.value(entry.address());
     if (!mapped.isEmpty()) {
         mHtml.element("p", tr("maps %1").arg(mapped), {{"class", QStringLiteral("soft")}});
     }
 }
 
-void CDictionaryTables::writeFindings(unsigned int index, std::optional<unsigned int> subIndex)
+void CDictionaryTables::writeFindings(const CXddEntry& entry)
 {
-    const QString address = CCanOpenNames::entry(index, subIndex);
-    for (const CXddRemark* const finding : mFindings.value(address)) {
+    for (const CXddRemark* const finding : mFindings.value(entry.address())) {
         const QString severity = CXddRemark::severityAsStr(finding->mSeverity);
         mHtml.open("p", {{"class", severity.left(1)}}).element("code", finding->mRule);
         if (mFindingsOfRule.value(finding->mRule) <= MAX_TOLD) {
@@ -318,29 +317,29 @@ void CDictionaryTables::writeFindings(unsigned int index, std::optional<unsigned
 }
 
 // What it may be mapped to, or the PDOs that carry it.
-void CDictionaryTables::writePdo(const QString& address, const CCanOpenSubObject& entry)
+void CDictionaryTables::writePdo(const CXddEntry& entry)
 {
-    mHtml.open("td").text(CCanOpenNames::mapping(entry));
-    for (const QString& pdo : mPdos.value(address)) {
+    mHtml.open("td").text(entry.mappingText());
+    for (const QString& pdo : mPdos.value(entry.address())) {
         mHtml.text(QStringLiteral(" ")).link(pdo, pdo);
     }
     mHtml.close();
 }
 
-void CDictionaryTables::writeDefault(const CCanOpenSubObject& entry)
+void CDictionaryTables::writeDefault(const CXddEntry& entry)
 {
-    mHtml.open("td").text(cutForPage(entry.mDefaultValue));
-    if (!entry.mActualValue.isEmpty()) {
+    mHtml.open("td").text(cutForPage(entry.mDefaultValue.mText));
+    if (entry.mActualValue.isGiven()) {
         mHtml.text(QStringLiteral(" ")).open("p").element("span", tr("actual"), {{"class", QStringLiteral("soft")}});
-        mHtml.text(QLatin1Char(' ') + cutForPage(entry.mActualValue)).close();
+        mHtml.text(QLatin1Char(' ') + cutForPage(entry.mActualValue.mText)).close();
     }
     mHtml.close();
 }
 
-QString CDictionaryTables::rangeText(const CCanOpenSubObject& entry) const
+QString CDictionaryTables::rangeText(const CXddEntry& entry) const
 {
-    const QString low = cutForPage(entry.mLowLimit);
-    const QString high = cutForPage(entry.mHighLimit);
+    const QString low = cutForPage(entry.mLowLimit.mText);
+    const QString high = cutForPage(entry.mHighLimit.mText);
     const QString range = low.isEmpty() && high.isEmpty() ? QString()
                           : high.isEmpty()                ? QStringLiteral("≥ ") + low
                           : low.isEmpty()                 ? QStringLiteral("≤ ") + high
@@ -349,30 +348,25 @@ QString CDictionaryTables::rangeText(const CCanOpenSubObject& entry) const
 }
 
 // What the description says of a sub-object, but for numbers.
-QString CDictionaryTables::saidOf(unsigned int index, unsigned int subIndex)
+QString CDictionaryTables::saidOf(const CXddEntry& entry)
 {
-    const SEntry* const entry = mPage.description.dictionary().subObject(index, subIndex);
-    const CXddEntryTexts texts = entry == nullptr ? CXddEntryTexts() : mTexts.of(*entry);
+    const CXddEntryTexts texts = textsOf(entry);
     QString said = CXddLabel::chosen(texts.mUnits, mPage.language);
     for (const QList<CXddLabel>& labels : {texts.mLabels, texts.mDescriptions}) {
         said += QLatin1Char(' ') + withoutDigits(CXddLabel::chosen(labels, mPage.language));
     }
-    return texts.mAllowedValues.isEmpty() ? said : QString::number(subIndex); // Values are not compared
+    return texts.mAllowedValues.isEmpty() ? said : QString::number(*entry.mSubIndex); // Values are not compared
 }
 
 // Two sub-objects that differ in their numbers at most, and of which nothing more is said.
-bool CDictionaryTables::isAlike(const CCanOpenObject& object, int left, int right)
+bool CDictionaryTables::isAlike(const CXddEntry& left, const CXddEntry& right)
 {
-    const CCanOpenSubObject& one = object.mSubObjects[left];
-    const CCanOpenSubObject& other = object.mSubObjects[right];
-    return one.mObjectType == other.mObjectType && one.mDataType == other.mDataType
-           && one.mAccessType == other.mAccessType && one.mPdoMapping == other.mPdoMapping
-           && one.mDefaultValue == other.mDefaultValue && one.mActualValue == other.mActualValue
-           && one.mLowLimit == other.mLowLimit && one.mHighLimit == other.mHighLimit
-           && one.mDenotation == other.mDenotation
-           && !mFindings.contains(CCanOpenNames::entry(object.mIndex, other.mIndex))
-           && !mPdos.contains(CCanOpenNames::entry(object.mIndex, other.mIndex))
-           && withoutDigits(one.mName) == withoutDigits(other.mName)
-           && (one.mUniqueIdRef == other.mUniqueIdRef
-               || saidOf(object.mIndex, one.mIndex) == saidOf(object.mIndex, other.mIndex));
+    const auto stated = [](const CXddEntry& entry) {
+        return std::make_tuple(
+            entry.mObjectCode, entry.mDataType, entry.mAccessType, entry.mPdoMapping, entry.mDefaultValue.mText,
+            entry.mActualValue.mText, entry.mLowLimit.mText, entry.mHighLimit.mText, entry.mDenotation,
+            withoutDigits(entry.mName));
+    };
+    return stated(left) == stated(right) && !mFindings.contains(right.address()) && !mPdos.contains(right.address())
+           && (left.mUniqueIdRef == right.mUniqueIdRef || saidOf(left) == saidOf(right));
 }

@@ -32,28 +32,28 @@ public:
     static QList<SDictionaryRange> ranges(const SPage& page);
 
 private:
-    using Objects = QList<const CCanOpenObject*>;
+    using Rows = QList<const CXddEntry*>; // Each object followed by its sub-objects
 
     void writeRange(const SDictionaryRange& range);
-    void writeTables(const Objects& objects);
+    void writeTables(const Rows& rows);
     void beginTable();
     void endTable();
-    void writeObject(const CCanOpenObject& object);
-    void writeFold(const CCanOpenObject& object, int first, int end, const QString& text);
-    void writeSubObject(const CCanOpenObject& object, int number);
-    void writeRow(
-        unsigned int index, std::optional<unsigned int> subIndex, const CCanOpenSubObject& entry, const QString& id);
-    void writeName(unsigned int index, std::optional<unsigned int> subIndex, const CCanOpenSubObject& entry);
-    void writeTexts(unsigned int index, std::optional<unsigned int> subIndex, const CCanOpenSubObject& entry);
+    void writeObject(const Rows& rows, int first, int end);
+    void writeFold(const Rows& rows, int first, int end, const QString& text);
+    void writeSubObject(const CXddEntry& entry);
+    void writeRow(const CXddEntry& entry, const QString& id);
+    void writeName(const CXddEntry& entry);
+    void writeTexts(const CXddEntry& entry);
     void writeLabels(const QList<CXddLabel>& labels, const QString& except);
-    void writeValues(const QList<CXddAllowedValue>& values, const CCanOpenSubObject& entry);
-    void writeMapped(unsigned int index, std::optional<unsigned int> subIndex);
-    void writeFindings(unsigned int index, std::optional<unsigned int> subIndex);
-    void writePdo(const QString& address, const CCanOpenSubObject& entry);
-    void writeDefault(const CCanOpenSubObject& entry);
-    QString rangeText(const CCanOpenSubObject& entry) const;
-    QString saidOf(unsigned int index, unsigned int subIndex);
-    bool isAlike(const CCanOpenObject& object, int left, int right);
+    void writeValues(const QList<CXddAllowedValue>& values, const CXddEntry& entry);
+    void writeMapped(const CXddEntry& entry);
+    void writeFindings(const CXddEntry& entry);
+    void writePdo(const CXddEntry& entry);
+    void writeDefault(const CXddEntry& entry);
+    QString rangeText(const CXddEntry& entry) const;
+    CXddEntryTexts textsOf(const CXddEntry& entry);
+    QString saidOf(const CXddEntry& entry);
+    bool isAlike(const CXddEntry& left, const CXddEntry& right);
 
     CHtml& mHtml;
     const SPage& mPage;

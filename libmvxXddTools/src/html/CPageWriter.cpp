@@ -1,9 +1,11 @@
 #include "html/CPageWriter.h"
 
 #include "NIso15745Tags.h"
+#include "canopen/Texts.h"
 #include "html/CDictionaryTables.h"
 #include "html/CPdoCards.h"
 #include "names/Hexadecimal.h"
+#include "names/NEdsWords.h"
 #include "names/NFormatWords.h"
 
 #include <QCryptographicHash>
@@ -46,7 +48,7 @@ QString classOf(CXddRemark::ESeverity severity)
 
 QString SPage::title() const
 {
-    const QString product = reader.deviceProfile().mProductName.mValue.simplified();
+    const QString product = device.mDeviceProfile.identity(TAG_PRODUCT_NAME).simplified();
     return cutForPage(product.isEmpty() ? fileName : product);
 }
 
@@ -57,12 +59,9 @@ int SPage::count(CXddRemark::ESeverity severity) const
     }));
 }
 
-int SPage::entries() const
+int SPage::objects() const
 {
-    const QMap<unsigned int, CCanOpenObject>& objects = reader.networkProfile().mObjects;
-    return std::accumulate(objects.begin(), objects.end(), int(objects.size()), [](int sum, const CCanOpenObject& one) {
-        return sum + int(one.mSubObjects.size());
-    });
+    return int(std::count_if(entries.begin(), entries.end(), [](const CXddEntry& entry) { return !entry.mSubIndex; }));
 }
 
 QString rowId(unsigned int index, std::optional<unsigned int> subIndex)
@@ -122,21 +121,18 @@ QByteArray CPageWriter::style()
 
 void CPageWriter::writeHeader()
 {
-    const auto fact = [this](const QString& name) {
-        const auto found = std::find_if(
-            mPage.identity.begin(), mPage.identity.end(), [&name](const CXddFact& one) { return one.mName == name; });
-        return found == mPage.identity.end() ? QString() : cutForPage(found->mValue);
-    };
+    const CXddProfile& profile = mPage.device.mDeviceProfile;
+    const QString orderNumber = cutForPage(profile.identity(TAG_ORDER_NUMBER));
+    const QString maker = joinedTexts(
+        {cutForPage(profile.identity(TAG_VENDOR_NAME)),
+         orderNumber.isEmpty() ? QString() : tr("order number %1").arg(orderNumber)},
+        QLatin1String(" \xB7 ")); // Of Latin-1: a middle dot
+    const QString product = cutForPage(profile.identityTexts(TAG_PRODUCT_TEXT, mPage.language));
     mHtml.open("header").line();
     mHtml.element("h1", mPage.title()).line();
-    const QString orderNumber = fact(tr("Order number"));
-    QStringList maker = {
-        fact(tr("Vendor")), orderNumber.isEmpty() ? QString() : tr("order number %1").arg(orderNumber)};
-    maker.removeAll(QString());
     if (!maker.isEmpty()) {
-        mHtml.element("p", maker.join(QStringLiteral(" · ")), {{"class", QStringLiteral("soft")}}).line();
+        mHtml.element("p", maker, {{"class", QStringLiteral("soft")}}).line();
     }
-    const QString product = fact(tr("Product text"));
     if (!product.isEmpty()) {
         mHtml.element("p", product, {{"class", QStringLiteral("soft")}}).line();
     }
@@ -152,15 +148,15 @@ void CPageWriter::writeTiles()
     };
     const auto pdos = [this](bool isTransmit, bool isMapped) {
         return int(std::count_if(mPage.pdos.begin(), mPage.pdos.end(), [=](const CXddPdo& pdo) {
-            return pdo.mIsTransmit == isTransmit && (!isMapped || (pdo.mIsEnabled && pdo.bytes() > 0));
+            return pdo.mIsTransmit == isTransmit && (!isMapped || pdo.isInUse());
         }));
     };
     const auto ofAll = [](int all) {
         return QLatin1Char(' ') + tr("of %1").arg(all);
     };
     mHtml.open("ul", {{"class", QStringLiteral("tiles")}}).line();
-    tile(int(mPage.reader.networkProfile().mObjects.size()), QString(), tr("objects"), QString());
-    tile(mPage.entries(), QString(), tr("entries"), QString());
+    tile(mPage.objects(), QString(), tr("objects"), QString());
+    tile(int(mPage.entries.size()), QString(), tr("entries"), QString());
     tile(pdos(false, true), ofAll(pdos(false, false)), tr("receive PDOs in use"), QString());
     tile(pdos(true, true), ofAll(pdos(true, false)), tr("transmit PDOs in use"), QString());
     if (mPage.hasFindings) {
@@ -214,9 +210,9 @@ void CPageWriter::writeDevice()
     mHtml.open("section", {{"id", QStringLiteral("device")}}).line();
     mHtml.element("h2", tr("Device")).line();
     mHtml.open("div", {{"class", QStringLiteral("two")}}).line().open("dl").line();
-    writeFacts(mPage.identity);
+    writeFacts(mPage.facts);
     mHtml.close().line().open("dl").line();
-    writeFacts(mPage.files);
+    writeFacts(mPage.fileFacts);
     writeFeatures();
     writeBitRates();
     mHtml.close().line().close().line().close().line();
@@ -224,59 +220,51 @@ void CPageWriter::writeDevice()
 
 void CPageWriter::writeFeatures()
 {
-    const CXmlElement management = mPage.description.body(EProfile::Network).child(TAG_NETWORK_MANAGEMENT);
-    const CXmlElement general = management.child(TAG_GENERAL_FEATURES);
-    const CXmlElement master = management.child(TAG_MASTER_FEATURES);
-    const auto has = [](const CXmlElement& element, QLatin1String attribute) {
-        const QString value = element.attribute(attribute).trimmed();
-        return value == QLatin1String("true") || value == QLatin1String("1");
-    };
-    const std::pair<bool, QString> all[] = {
-        {has(general, ATTR_BOOT_UP_SLAVE), tr("boot-up slave")},
-        {has(master, ATTR_BOOT_UP_MASTER), tr("boot-up master")},
-        {has(general, ATTR_LSS_SLAVE), tr("LSS slave")},
-        {has(general, ATTR_GROUP_MESSAGING), tr("group messaging")},
+    const std::pair<QLatin1String, QString> all[] = {
+        {ATTR_BOOT_UP_SLAVE, tr("boot-up slave")},
+        {ATTR_BOOT_UP_MASTER, tr("boot-up master")},
+        {ATTR_LSS_SLAVE, tr("LSS slave")},
+        {ATTR_GROUP_MESSAGING, tr("group messaging")},
     };
     QStringList features;
-    for (const auto& [isThere, name] : all) {
-        features << (isThere ? QStringList{name} : QStringList());
+    for (const auto& [name, text] : all) {
+        features << (mPage.device.flag(name).value_or(false) ? text : QString());
     }
-    if (!features.isEmpty()) {
-        mHtml.element("dt", tr("Features")).element("dd", features.join(QLatin1String(", "))).line();
-    }
-    const QString granularity = general.attribute(ATTR_GRANULARITY).trimmed();
-    if (!granularity.isEmpty()) {
-        mHtml.element("dt", tr("PDO granularity")).element("dd", cutForPage(granularity)).line();
-    }
+    const auto write = [this](const QString& name, const QString& text) {
+        if (!text.isEmpty()) {
+            mHtml.element("dt", name).element("dd", text).line();
+        }
+    };
+    write(tr("Features"), joinedTexts(features, QLatin1String(", ")));
+    write(tr("PDO granularity"), cutForPage(mPage.device.feature(ATTR_GRANULARITY).trimmed()));
 }
 
-// Those that are not supported as well.
+// Those that are not supported as well. Only a bit rate that is stated is marked as the default.
 void CPageWriter::writeBitRates()
 {
-    const CNetworkCanOpenProfile& network = mPage.reader.networkProfile();
-    if (!mPage.statesBitRates) {
+    const CXddDevice& device = mPage.device;
+    if (device.mBitRates.isEmpty()) {
         return;
     }
-    QList<int> rates = {10, 20, 50, 125, 250, 500, 800, 1000};
-    QList<int> supported;
-    for (const CNetworkCanOpenProfile::EBaudrate rate : network.mSupportedBaudRates) {
-        supported << int(rate);
-        if (!rates.contains(int(rate)) && rate > CNetworkCanOpenProfile::BAUD_AUTO) {
+    using Network = CNetworkCanOpenProfile;
+    QList<int> rates(NEdsWords::BAUD_RATES.begin(), NEdsWords::BAUD_RATES.end());
+    for (const Network::EBaudrate rate : device.mBitRates + QList<Network::EBaudrate>{device.mDefaultBitRate}) {
+        if (!rates.contains(int(rate)) && rate > Network::BAUD_AUTO) {
             rates << int(rate);
         }
     }
     std::sort(rates.begin(), rates.end());
     mHtml.element("dt", tr("Bit rates (kbit/s)")).open("dd").open("ul", {{"class", QStringLiteral("rates")}});
-    for (const int rate : rates) {
-        const QString text = rate == int(network.mBaudRate) ? tr("%1 (default)").arg(rate) : QString::number(rate);
-        const bool isThere = supported.contains(rate);
+    for (const int rate : qAsConst(rates)) {
+        const bool isDefault = rate == int(device.mDefaultBitRate);
+        const bool isThere = device.mBitRates.contains(static_cast<Network::EBaudrate>(rate));
         mHtml.open("li", {{"class", isThere ? QStringLiteral("y") : QString()}});
         mHtml.text(isThere ? QStringLiteral("✓ ") : QStringLiteral("– "));
         mHtml.element(
             "span", isThere ? QString() : tr("not supported:") + QLatin1Char(' '), {{"class", QStringLiteral("h")}});
-        mHtml.text(text).close();
+        mHtml.text(isDefault ? tr("%1 (default)").arg(rate) : QString::number(rate)).close();
     }
-    if (supported.contains(int(CNetworkCanOpenProfile::BAUD_AUTO))) {
+    if (device.mBitRates.contains(Network::BAUD_AUTO)) {
         mHtml.element("li", QStringLiteral("✓ ") + tr("automatic"), {{"class", QStringLiteral("y")}});
     }
     mHtml.close().close().line();
@@ -310,7 +298,7 @@ void CPageWriter::writeGroup(const QList<CXddRemark>& group)
             break;
         }
         const CXddRemark& finding = group[i];
-        const bool hasRow = finding.mIndex && mPage.reader.networkProfile().mObjects.contains(*finding.mIndex);
+        const bool hasRow = finding.mIndex && mPage.hasRow(*finding.mIndex);
         mHtml.open("li");
         const QString text = hasRow ? QLatin1String(": ") + finding.mSentence.text() : finding.text();
         mFindingsLeft -= FINDING_MARKUP + text.size();

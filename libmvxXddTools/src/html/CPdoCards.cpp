@@ -102,7 +102,7 @@ void CPdoCards::writeHead(const CXddPdo& pdo)
         facts << tr("%1 (type %2)").arg(pdo.transmissionText(), QString::number(*pdo.mTransmissionType));
     }
     if (pdo.mInhibitTime != 0) {
-        facts << tr("inhibit time %1 ms").arg(QString::number(pdo.mInhibitTime / microseconds));
+        facts << tr("inhibit time %1 ms").arg(QString::number(double(pdo.mInhibitTime) / microseconds));
     }
     if (pdo.mEventTimer != 0) {
         facts << (pdo.mIsTransmit ? tr("event timer %1 ms") : tr("deadline %1 ms")).arg(pdo.mEventTimer);
@@ -124,10 +124,9 @@ void CPdoCards::writeHead(const CXddPdo& pdo)
 // Links to the objects that describe it.
 void CPdoCards::writeObjects(const CXddPdo& pdo)
 {
-    const auto& objects = mPage.reader.networkProfile().mObjects;
     QString separator;
     for (const unsigned int index : {pdo.communicationIndex(), pdo.mappingIndex()}) {
-        if (objects.contains(index)) {
+        if (mPage.hasRow(index)) {
             mHtml.text(separator).link(rowId(index, std::nullopt), CCanOpenNames::index(index));
             separator = QStringLiteral(", ");
         }
@@ -158,7 +157,7 @@ void CPdoCards::writePicture(const CXddPdo& pdo)
 void CPdoCards::writeField(const CXddPdoField& field, int number)
 {
     const QString tint = field.mKind == CXddPdoField::KIND_DUMMY ? QStringLiteral("u")
-                         : !isThere(field)                       ? QStringLiteral("q")
+                         : !field.mIsDescribed                   ? QStringLiteral("q")
                          : number % 2 == 1                       ? QStringLiteral("a")
                                                                  : QStringLiteral("b");
     mHtml.open(
@@ -206,16 +205,11 @@ QString CPdoCards::nameOf(const CXddPdoField& field) const
                     : cutForPage(field.mName);
 }
 
-bool CPdoCards::isThere(const CXddPdoField& field) const
-{
-    return mPage.description.dictionary().variable(field.mIndex, field.mSubIndex) != nullptr;
-}
-
 void CPdoCards::writeEntry(const CXddPdoField& field)
 {
     const bool isSub = field.mIsSubObject;
     mHtml.open("code");
-    if (isThere(field)) {
+    if (field.mIsDescribed) {
         mHtml.link(
             rowId(field.mIndex, isSub ? std::optional<unsigned int>(field.mSubIndex) : std::nullopt), field.entry());
     } else {
@@ -239,7 +233,7 @@ void CPdoCards::writeLegend(const CXddPdo& pdo)
         mHtml.element("td", range(field.mOffset / BITS_OF_BYTE, last / BITS_OF_BYTE));
         mHtml.element("td", range(field.mOffset, last)).open("td");
         writeEntry(field);
-        const bool isMissing = field.mKind != CXddPdoField::KIND_DUMMY && !isThere(field);
+        const bool isMissing = field.mKind != CXddPdoField::KIND_DUMMY && !field.mIsDescribed;
         mHtml.close().element("td", nameOf(field), {{"class", isMissing ? QStringLiteral("e") : QString()}});
         mHtml.element("td", CCanOpenNames::dataType(field.mDataType)).close().line();
     }

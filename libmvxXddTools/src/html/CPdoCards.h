@@ -29,7 +29,6 @@ private:
     void writeObjects(const CXddPdo& pdo);
     void writeEntry(const CXddPdoField& field);
     QString nameOf(const CXddPdoField& field) const;
-    bool isThere(const CXddPdoField& field) const;
 
     CHtml& mHtml;
     const SPage& mPage;

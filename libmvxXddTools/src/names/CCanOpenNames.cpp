@@ -68,26 +68,9 @@ QString CCanOpenNames::shortDataType(unsigned int dataType)
     return name.isEmpty() ? CCanOpenNames::dataType(dataType) : QString(name);
 }
 
-QString CCanOpenNames::type(const CCanOpenSubObject& entry, bool isShort)
+QString CCanOpenNames::fullName(const QString& object, const QString& name)
 {
-    if (entry.mObjectType != CODE_VAR || entry.mDataType == 0) {
-        return objectCode(entry.mObjectType);
-    }
-    return isShort ? shortDataType(entry.mDataType) : dataType(entry.mDataType);
-}
-
-QString CCanOpenNames::access(const CCanOpenSubObject& entry)
-{
-    return entry.mAccessType == CCanOpenSubObject::OBJ_ACCESS_INVALID
-               ? QString()
-               : CCanOpenSubObject::accessTypeAsStr(entry.mAccessType);
-}
-
-QString CCanOpenNames::mapping(const CCanOpenSubObject& entry)
-{
-    return entry.mPdoMapping == CCanOpenSubObject::OBJ_MAP_INVALID
-               ? QString()
-               : CCanOpenSubObject::pdoMappingAsStr(entry.mPdoMapping);
+    return name == object || object.isEmpty() ? name : object + QLatin1String(": ") + name;
 }
 
 QString CCanOpenNames::deviceProfile(unsigned int number)

@@ -119,13 +119,7 @@ void wordForms(const CDescription& description, CXmlEdits& edits)
             }
         }
     };
-    static const QStringList access = {VAL_OBJ_ACCESS_CONST,
-                                       VAL_ACCESS_READ,
-                                       VAL_ACCESS_WRITE,
-                                       VAL_ACCESS_READ_WRITE,
-                                       VAL_ACCESS_READ_WRITE_INPUT,
-                                       VAL_ACCESS_READ_WRITE_OUTPUT,
-                                       VAL_NO_ACCESS};
+    static const QStringList access = accessWordsOfParameters();
     static const QStringList versions = {VAL_VTYPE_SW, VAL_VTYPE_FW, VAL_VTYPE_HW};
     for (const CXmlElement& element : description.tree().all()) {
         if (element.is(TAG_PARAMETER)) {

@@ -78,8 +78,7 @@ void parameters(const CDescription& description, CXmlEdits& edits)
         }
         std::vector<CXmlEdits::Attribute> supplied;
         const auto supply = [&](QLatin1String name, const auto& property, const QString& text) {
-            const bool isOfParameter = !property.source.isNull() && !(property.source == entry.element);
-            if (isOfParameter && !text.isNull()) {
+            if (property.origin == CXddValue::ORIGIN_PARAMETER && !text.isNull()) {
                 supplied.emplace_back(name, text);
             }
         };

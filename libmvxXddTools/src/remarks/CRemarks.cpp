@@ -65,6 +65,11 @@ void CRemarks::found(const SPlace& place, QLatin1String rule, const SWords& word
     add(CXddRemark::KIND_FINDING, place, rule, words, arguments);
 }
 
+void CRemarks::lost(const SPlace& place, QLatin1String rule, const SWords& words, Arguments arguments)
+{
+    add(CXddRemark::KIND_LOSS, place, rule, words, arguments);
+}
+
 void CRemarks::add(
     CXddRemark::EKind kind, const SPlace& place, QLatin1String rule, const SWords& words, Arguments arguments)
 {

@@ -50,10 +50,12 @@ public:
     /** Adds a remark that is made already. */
     void add(const CXddRemark& remark);
 
-    /** Something by a rule of its own: it was taken for what it means, was not taken, or is only found. */
+    /** Something by a rule of its own: it was taken for what it means, was not taken, is only found, or cannot be said
+     * in another form. */
     void taken(const SPlace& place, QLatin1String rule, const SWords& words, Arguments arguments = {});
     void left(const SPlace& place, QLatin1String rule, const SWords& words, Arguments arguments = {});
     void found(const SPlace& place, QLatin1String rule, const SWords& words, Arguments arguments = {});
+    void lost(const SPlace& place, QLatin1String rule, const SWords& words, Arguments arguments = {});
 
     /** All remarks in the order of the lines. Two that say the same of one place are one. */
     QList<CXddRemark> inOrder() const;

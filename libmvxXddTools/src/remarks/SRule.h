@@ -20,7 +20,9 @@ template <typename... Arguments> struct SRule
     CXddRemark::ESeverity severity;
     const char* summary;         ///< When it applies, and what becomes of that
     const char* help;            ///< Why, and what to do
-    void (*apply)(Arguments...); ///< Null for a rule that is applied before there is a description
+    void (*apply)(Arguments...); ///< Null for a rule that is applied elsewhere, while a file is read or with a PDO
+    const char* wrong = ""; ///< Of a rule of the checker: a piece of a file that it finds; the same in every language
+    const char* right = ""; ///< The same as it should be
 
     /** What the remarks of the rule have in common. */
     CXddRemark cause(CXddRemark::EKind kind) const
@@ -44,6 +46,8 @@ template <typename Rule> QList<CXddRule> shownRules(const std::vector<const std:
             rule.mSeverity = row.severity;
             rule.mSummary = CRemarks::tr(row.summary);
             rule.mReason = CRemarks::tr(row.help);
+            rule.mWrong = QString::fromUtf8(row.wrong);
+            rule.mRight = QString::fromUtf8(row.right);
             rules << rule;
         }
     }

@@ -112,6 +112,12 @@ SPlace CXmlElement::place() const
     return isNull() ? SPlace() : SPlace{mTree->node(mNode).line, mTree->node(mNode).column};
 }
 
+SPlace CXmlElement::placeOf(QLatin1String attribute) const
+{
+    const CXmlTree::SAttribute* const found = isNull() ? nullptr : mTree->attribute(mNode, attribute);
+    return found == nullptr || found->line == 0 ? place() : SPlace{found->line};
+}
+
 CXmlElement CXmlElement::parent() const
 {
     return isNull() ? CXmlElement() : at(mTree->node(mNode).parent);
@@ -157,6 +163,17 @@ std::vector<CXmlElement> CXmlElement::children(QLatin1String name) const
 bool CXmlElement::has(QLatin1String attribute) const
 {
     return !isNull() && mTree->attribute(mNode, attribute) != nullptr;
+}
+
+QStringList CXmlElement::attributeNames() const
+{
+    QStringList names;
+    const CXmlTree::SNode none;
+    const CXmlTree::SNode& node = isNull() ? none : mTree->node(mNode);
+    for (int i = node.firstAttribute; i < node.firstAttribute + node.attributes; ++i) {
+        names << mTree->raw(mTree->mAttributes[std::size_t(i)].name);
+    }
+    return names;
 }
 
 QString CXmlElement::attribute(QLatin1String name) const
@@ -249,7 +266,7 @@ public:
 
     void attribute(SMarkupRange name, SMarkupRange value)
     {
-        mTree.mAttributes.push_back({localName(name), {int(value.begin), int(value.end)}});
+        mTree.mAttributes.push_back({localName(name), {int(value.begin), int(value.end)}, 0});
     }
 
     void startTagEnd(qsizetype attributesEnd, qsizetype end, bool isEmptyTag)
@@ -382,7 +399,8 @@ bool CXmlTree::read(const QString& text, CXddRemark& failure)
     return false;
 }
 
-bool CXmlTree::readWritten(const QString& text, const std::vector<int>& lines, CXddRemark& failure)
+bool CXmlTree::readWritten(
+    const QString& text, const std::vector<int>& lines, const std::vector<int>& attributeLines, CXddRemark& failure)
 {
     mText = text;
     CBuilder builder(*this);
@@ -394,6 +412,9 @@ bool CXmlTree::readWritten(const QString& text, const std::vector<int>& lines, C
     for (std::size_t element = 0; element < mNodes.size(); ++element) {
         mNodes[element].line = lines.at(element);
         mNodes[element].column = 0;
+    }
+    for (std::size_t attribute = 0; attribute < mAttributes.size(); ++attribute) {
+        mAttributes[attribute].line = attributeLines.at(attribute);
     }
     indexChildren();
     return true;

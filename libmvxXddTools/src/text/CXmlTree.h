@@ -6,6 +6,7 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 #include <vector>
@@ -41,6 +42,9 @@ public:
     operator SPlace() const { return place(); }
     /** Line of the start tag, from 1; 0 for a null element. */
     int line() const { return place().line; }
+    /** Where an attribute comes from: in a text that was made from another one its own line there, else the start tag.
+     */
+    SPlace placeOf(QLatin1String attribute) const;
 
     CXmlElement parent() const;
     CXmlElement firstChild() const;
@@ -54,6 +58,8 @@ public:
     std::vector<CXmlElement> children(QLatin1String name) const;
 
     bool has(QLatin1String attribute) const;
+    /** The names of its attributes, in their order. */
+    QStringList attributeNames() const;
     /** The value of an attribute with its references replaced; a null text when it is absent. */
     QString attribute(QLatin1String name) const;
     /** The characters between the tags with their references replaced, those of children included. */
@@ -94,9 +100,11 @@ public:
      */
     bool read(const QString& text, CXddRemark& failure);
 
-    /** Finds all elements of a text that a writer of XML has made, each of them, in document order, from that line of
-     * another text. Columns are not known then. Returns false, with the reason, beyond a limit. */
-    bool readWritten(const QString& text, const std::vector<int>& lines, CXddRemark& failure);
+    /** Finds all elements of a text that a writer of XML has made, each element and each attribute, in document order,
+     * from that line of another text. Columns are not known then. Returns false, with the reason, beyond a limit. */
+    bool readWritten(
+        const QString& text, const std::vector<int>& lines, const std::vector<int>& attributeLines,
+        CXddRemark& failure);
 
     /** The text itself. */
     const QString& text() const { return mText; }
@@ -121,6 +129,7 @@ private:
     {
         SRange name;  // Without its prefix
         SRange value; // Without its quotes
+        int line = 0; // In another text; 0 where it is that of the element
     };
 
     struct SNode
