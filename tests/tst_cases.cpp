@@ -247,13 +247,13 @@ QStringList conformed(const QByteArray& text)
     if (!document.isOpen()) {
         return {failureOf(document)};
     }
-    const CXddCopy copy = CXddNormalizer::conform(document);
+    const CXddCopy copy = CXddNormalizer::conform(document, CXddChecker::check(document));
     const CXddDocument again = CXddDocument::open(copy.mText);
     QStringList lines;
     for (const CXddRemark& remark : copy.mRemarks) {
         lines << QStringLiteral("%1: %2 [%3]").arg(QString::number(remark.mLine), remark.text(), remark.mRule);
     }
-    if (CXddNormalizer::conform(again).mText != copy.mText) {
+    if (CXddNormalizer::conform(again, CXddChecker::check(again)).mText != copy.mText) {
         lines << QStringLiteral("not the same when it is put right again");
     }
     QStringList before;

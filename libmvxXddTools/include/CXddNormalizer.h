@@ -39,11 +39,11 @@ public:
     static CXddCopy normalize(const CXddDocument& document);
 
     /**
-     * A copy of a description in XML for publishing: what CXddChecker finds and has one right
-     * writing is put right, by the rules of the checker. What has no one right writing is left; the copy of the copy is
-     * the same. The copy of an EDS is what normalize() makes of it.
+     * A copy of a description in XML for publishing: what the findings of CXddChecker are about and has one right
+     * writing is put right. What has no one right writing is left, and so is what is not among the findings, such as
+     * what a comment hides. The copy of an EDS is what normalize() makes of it.
      */
-    static CXddCopy conform(const CXddDocument& document);
+    static CXddCopy conform(const CXddDocument& document, const QList<CXddRemark>& findings);
 
     /**
      * Loads a description as ICIso15745::load does, normalised. What the library could not read, such as an object that

@@ -12,7 +12,7 @@ enum EExitStatus : int
 {
     EXIT_ALL_DONE = 0,
     EXIT_NOT_ALL_DONE = 1, ///< Something could not be read, done or written
-    EXIT_USAGE = 2         ///< The command line was not understood
+    EXIT_USAGE = 2         ///< The command line or the settings were not understood
 };
 
 /** The name under which a file stands for standard input and output. */

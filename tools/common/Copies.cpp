@@ -30,7 +30,7 @@ ECopied writeCopy(const SCopyRequest& request, const CXddDocument& document, con
     return !isNeeded || writeFile(request.destination.of(fileName), copy.mText) ? ECopied::Yes : ECopied::No;
 }
 
-ECopied conformFile(const SCopyRequest& request, const QString& fileName)
+ECopied conformFile(const SCopyRequest& request, const QString& fileName, const ChooseFindings& choose)
 {
     const CXddDocument document = openDescription(fileName);
     if (!document.isOpen()) {
@@ -41,5 +41,5 @@ ECopied conformFile(const SCopyRequest& request, const QString& fileName)
                      .arg(fileName));
         return ECopied::No;
     }
-    return writeCopy(request, document, CXddNormalizer::conform(document), true);
+    return writeCopy(request, document, CXddNormalizer::conform(document, choose(document)), true);
 }

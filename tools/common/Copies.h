@@ -5,6 +5,8 @@
 
 #include <CXddNormalizer.h>
 
+#include <functional>
+
 /** @file
  * How tools write changed copies of descriptions.
  */
@@ -13,7 +15,10 @@
  * only where something changed. */
 ECopied writeCopy(const SCopyRequest& request, const CXddDocument& document, const CXddCopy& copy, bool showsRules);
 
+/** Which findings of a description are put right. */
+using ChooseFindings = std::function<QList<CXddRemark>(const CXddDocument&)>;
+
 /** Writes a copy for publishing. Refuses EDS files. */
-ECopied conformFile(const SCopyRequest& request, const QString& fileName);
+ECopied conformFile(const SCopyRequest& request, const QString& fileName, const ChooseFindings& choose);
 
 #endif

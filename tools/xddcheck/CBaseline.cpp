@@ -88,19 +88,19 @@ void CBaseline::add(const QString& description, const QList<CXddRemark>& finding
     }
 }
 
-bool CBaseline::takes(const QString& description, const CXddRemark& finding)
-{
-    const auto found = mFindings.find(keyOf(description, finding));
-    if (found == mFindings.end() || *found == 0) {
-        return false;
-    }
-    --*found;
-    return true;
-}
-
-void CBaseline::lookedAt(const QString& description)
+QList<CXddRemark> CBaseline::unknown(const QString& description, const QList<CXddRemark>& findings)
 {
     mLookedAt << pathOf(description);
+    QList<CXddRemark> unknown;
+    for (const CXddRemark& finding : findings) {
+        int& left = mFindings[keyOf(description, finding)];
+        if (left > 0) {
+            --left;
+        } else {
+            unknown << finding;
+        }
+    }
+    return unknown;
 }
 
 int CBaseline::size() const

@@ -25,14 +25,12 @@ public:
 
     /** Adds the findings of a description. */
     void add(const QString& description, const QList<CXddRemark>& findings);
-    /** True for a finding that is known; each known one is recognised as often as it was added. */
-    bool takes(const QString& description, const CXddRemark& finding);
-    /** Remembers that a description was looked at. */
-    void lookedAt(const QString& description);
+    /** The findings of a description that are not known. Each known one is recognised as often as it was added. */
+    QList<CXddRemark> unknown(const QString& description, const QList<CXddRemark>& findings);
 
     /** How many findings there are. */
     int size() const;
-    /** How many of the descriptions that were looked at were not recognised again. */
+    /** How many of the descriptions that were compared were not recognised again. */
     int gone() const;
 
 private:

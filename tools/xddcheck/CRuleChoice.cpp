@@ -21,12 +21,13 @@ bool CRuleChoice::isKnown(const QString& pattern) const
 
 void CRuleChoice::only(const QStringList& patterns)
 {
+    mDisabled.clear();
     for (const CXddRule& rule : qAsConst(mRules)) {
         const bool isNamed = std::any_of(patterns.begin(), patterns.end(), [&rule](const QString& pattern) {
             return CXddRule::isNamed(rule.mId, pattern);
         });
         if (!isNamed) {
-            mSeverities.remove(rule.mId);
+            mDisabled << rule.mId;
         }
     }
 }
@@ -35,7 +36,7 @@ void CRuleChoice::disable(const QString& pattern)
 {
     for (const CXddRule& rule : qAsConst(mRules)) {
         if (CXddRule::isNamed(rule.mId, pattern)) {
-            mSeverities.remove(rule.mId);
+            mDisabled << rule.mId;
         }
     }
 }
@@ -48,8 +49,9 @@ bool CRuleChoice::setSeverity(const QString& pattern, const QString& severity)
             continue;
         }
         for (const CXddRule& rule : qAsConst(mRules)) {
-            if (CXddRule::isNamed(rule.mId, pattern) && mSeverities.contains(rule.mId)) {
+            if (CXddRule::isNamed(rule.mId, pattern)) {
                 mSeverities.insert(rule.mId, known);
+                mDisabled.remove(rule.mId);
             }
         }
         return true;
@@ -66,19 +68,13 @@ void CRuleChoice::raiseWarnings()
 
 std::optional<CXddRemark::ESeverity> CRuleChoice::severity(const QString& rule) const
 {
-    const auto found = mSeverities.constFind(rule);
-    return found == mSeverities.constEnd() ? std::nullopt : std::make_optional(*found);
+    return mDisabled.contains(rule) ? std::nullopt : std::make_optional(mSeverities.value(rule));
 }
 
-QList<CXddRemark> CRuleChoice::chosen(const QList<CXddRemark>& findings) const
+QList<CXddRemark> CRuleChoice::chosen(QList<CXddRemark> findings) const
 {
-    QList<CXddRemark> chosen;
-    for (CXddRemark finding : findings) {
-        const std::optional<CXddRemark::ESeverity> severityOfRule = severity(finding.mRule);
-        if (severityOfRule) {
-            finding.mSeverity = *severityOfRule;
-            chosen << finding;
-        }
+    for (CXddRemark& finding : findings) {
+        finding.mSeverity = mSeverities.value(finding.mRule);
     }
-    return chosen;
+    return findings;
 }

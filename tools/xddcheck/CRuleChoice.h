@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QSet>
 #include <QStringList>
 
 #include <optional>
@@ -23,8 +24,8 @@ public:
     void only(const QStringList& patterns);
     /** Does not apply the rules that a pattern names. */
     void disable(const QString& pattern);
-    /** Gives the findings of the rules that a pattern names, where they are applied, a severity: "error", "warning" or
-     * "note". Returns false for another word. */
+    /** Applies the rules that a pattern names, their findings with a severity: "error", "warning" or "note". Returns
+     * false for another word. */
     bool setSeverity(const QString& pattern, const QString& severity);
     /** Makes every warning an error. */
     void raiseWarnings();
@@ -32,15 +33,19 @@ public:
     /** The severity of the findings of a rule; nothing where it is not applied. */
     std::optional<CXddRemark::ESeverity> severity(const QString& rule) const;
 
-    /** The findings that are to be reported. */
-    QList<CXddRemark> chosen(const QList<CXddRemark>& findings) const;
+    /** The rules that are not applied. */
+    QStringList disabled() const { return mDisabled.values(); }
+
+    /** What a check without the disabled rules found, with the severities that were chosen. */
+    QList<CXddRemark> chosen(QList<CXddRemark> findings) const;
 
     /** All rules, as the checker has them. */
     const QList<CXddRule>& rules() const { return mRules; }
 
 private:
     QList<CXddRule> mRules;
-    QHash<QString, CXddRemark::ESeverity> mSeverities; // Of the rules that are applied
+    QHash<QString, CXddRemark::ESeverity> mSeverities;
+    QSet<QString> mDisabled;
 };
 
 #endif

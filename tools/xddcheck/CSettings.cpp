@@ -8,30 +8,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QSettings>
-
-#include <algorithm>
 
 namespace
 {
 const QString NAME = QStringLiteral(".xddcheck.ini");
 const QString DISABLE_KEY = QStringLiteral("disable");
 const QStringList SEVERITIES = {QStringLiteral("error"), QStringLiteral("warning"), QStringLiteral("note")};
-
-// Where a key stands in a file, which QSettings does not tell; 0 where that is not found.
-int lineOf(const QStringList& lines, const QString& section, const QString& key)
-{
-    QString current;
-    for (int number = 0; number < lines.size(); ++number) {
-        const QString line = lines[number].trimmed();
-        if (line.startsWith(QLatin1Char('[')) && line.endsWith(QLatin1Char(']'))) {
-            current = line.mid(1, line.size() - 2);
-        } else if (current == section && line.section(QLatin1Char('='), 0, 0).trimmed() == key) {
-            return number + 1;
-        }
-    }
-    return 0;
-}
 
 // True for a file that a pattern of the settings names.
 bool isNamed(const QString& files, const QString& path)
@@ -97,39 +79,44 @@ CSettings::SFile CSettings::read(const QString& fileName)
         return file;
     }
     const QStringList lines = QString::fromUtf8(source.readAll()).split(QLatin1Char('\n'));
-    const QSettings settings(fileName, QSettings::IniFormat);
-    if (settings.status() != QSettings::NoError) {
-        file.error = QCoreApplication::translate("xddcheck", "%1: These are no settings.").arg(fileName);
-        return file;
-    }
-    const CRuleChoice choice;
-    for (const QString& whole : settings.allKeys()) {
-        const auto slash = whole.lastIndexOf(QLatin1Char('/'));
-        SEntry entry;
-        entry.files = slash < 0 ? QString() : whole.left(slash);
-        entry.key = whole.mid(slash + 1);
-        entry.line = lineOf(lines, entry.files, entry.key);
-        const QStringList values = settings.value(whole).toStringList();
-        for (const QString& text : values.join(QLatin1Char(',')).split(QLatin1Char(','), Qt::SkipEmptyParts)) {
-            entry.patterns << text.trimmed();
+    QString files;
+    for (int number = 0; number < lines.size() && file.error.isEmpty(); ++number) {
+        const QString line = lines[number].trimmed();
+        if (line.isEmpty() || line.startsWith(QLatin1Char(';')) || line.startsWith(QLatin1Char('#'))) {
+            continue;
         }
-        const bool isKey = entry.key == DISABLE_KEY || SEVERITIES.contains(entry.key);
-        const auto wrong =
-            std::find_if(entry.patterns.begin(), entry.patterns.end(), [&choice](const QString& pattern) {
-                return !choice.isKnown(pattern);
-            });
-        if (!isKey || wrong != entry.patterns.end()) {
-            file.error =
-                place(fileName, entry.line)
-                + (isKey ? QCoreApplication::translate("xddcheck", "'%1' is not a rule.").arg(*wrong)
-                         : QCoreApplication::translate("xddcheck", "'%1' is not a setting: these are %2.")
-                               .arg(entry.key, (QStringList{DISABLE_KEY} + SEVERITIES).join(QLatin1String(", "))));
-            return file;
+        if (line.startsWith(QLatin1Char('[')) && line.endsWith(QLatin1Char(']'))) {
+            files = line.mid(1, line.size() - 2).trimmed();
+            continue;
         }
+        SEntry entry = {files, line.section(QLatin1Char('='), 0, 0).trimmed(), {}};
+        for (const QString& pattern : line.section(QLatin1Char('='), 1).split(QLatin1Char(','))) {
+            entry.patterns << pattern.trimmed();
+        }
+        entry.patterns.removeAll(QString());
+        const QString fault = line.contains(QLatin1Char('=')) ? faultOf(entry)
+                                                              : QCoreApplication::translate(
+                                                                    "xddcheck", "\"%1\" is neither a section, a key "
+                                                                                "with \"=\" nor a comment.")
+                                                                    .arg(line);
+        file.error = fault.isEmpty() ? fault : place(fileName, number + 1) + fault;
         file.entries << entry;
     }
-    std::stable_sort(file.entries.begin(), file.entries.end(), [](const SEntry& left, const SEntry& right) {
-        return left.line < right.line;
-    });
     return file;
+}
+
+// Why a line cannot be understood; else empty.
+QString CSettings::faultOf(const SEntry& entry)
+{
+    if (entry.key != DISABLE_KEY && !SEVERITIES.contains(entry.key)) {
+        return QCoreApplication::translate("xddcheck", "'%1' is not a setting: these are %2.")
+            .arg(entry.key, (QStringList{DISABLE_KEY} + SEVERITIES).join(QLatin1String(", ")));
+    }
+    const CRuleChoice choice;
+    for (const QString& pattern : entry.patterns) {
+        if (!choice.isKnown(pattern)) {
+            return QCoreApplication::translate("xddcheck", "'%1' is not a rule.").arg(pattern);
+        }
+    }
+    return QString();
 }

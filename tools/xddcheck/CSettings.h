@@ -8,7 +8,7 @@
 #include <QVector>
 
 /**
- * What the files ".xddcheck.ini" of a project say of rules, in the INI form of QSettings. A section has the pattern of
+ * What the files ".xddcheck.ini" of a project say of rules, as an INI file. A section has the pattern of
  * the files that it is about, relative to the folder of the settings; what stands in front of all sections is about all
  * of them:
  *
@@ -37,7 +37,6 @@ private:
         QString files; // Empty for all of them
         QString key;
         QStringList patterns;
-        int line = 0;
     };
 
     struct SFile
@@ -49,6 +48,7 @@ private:
 
     QString fileFor(const QString& fileName);
     static SFile read(const QString& fileName);
+    static QString faultOf(const SEntry& entry);
 
     QString mFileName;
     bool mIsNone = false;

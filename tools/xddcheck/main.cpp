@@ -60,6 +60,7 @@ struct SRequest
     bool warningsAsErrors = false;
     bool verbose = false;
     bool quiet = false;
+    bool fixes = false;
     bool hasColors = false;
 };
 
@@ -155,14 +156,14 @@ struct SCounts
 QString chooseRules(SRequest& request, const QString& fileName, CRuleChoice& choice)
 {
     QString error = request.settings.apply(fileName, choice);
+    for (const QPair<QString, QString>& severity : qAsConst(request.severities)) {
+        choice.setSeverity(severity.first, severity.second);
+    }
     if (!request.only.isEmpty()) {
         choice.only(request.only);
     }
     for (const QString& pattern : qAsConst(request.disabled)) {
         choice.disable(pattern);
-    }
-    for (const QPair<QString, QString>& severity : qAsConst(request.severities)) {
-        choice.setSeverity(severity.first, severity.second);
     }
     if (request.warningsAsErrors) {
         choice.raiseWarnings();
@@ -180,14 +181,30 @@ QList<CXddRemark> compared(SOutputs& outputs, const QString& fileName, const QLi
         outputs.baseline->add(fileName, findings);
         return {};
     }
-    outputs.baseline->lookedAt(fileName);
-    QList<CXddRemark> unknown;
-    for (const CXddRemark& finding : findings) {
-        if (!outputs.baseline->takes(fileName, finding)) {
-            unknown << finding;
+    return outputs.baseline->unknown(fileName, findings);
+}
+
+// What is found in a description by the rules that are in force.
+QList<CXddRemark> findingsOf(const CXddDocument& document, const CRuleChoice& choice)
+{
+    return choice.chosen(CXddChecker::check(document, choice.disabled()));
+}
+
+// Puts right, in the file, what would be reported.
+bool fix(const SRequest& request, const QString& fileName, const CRuleChoice& choice, const SOutputs& outputs)
+{
+    SCopyRequest copy;
+    copy.destination.inPlace = true;
+    copy.verbose = request.verbose;
+    copy.quiet = request.quiet;
+    const auto choose = [&](const CXddDocument& document) {
+        const QList<CXddRemark> findings = findingsOf(document, choice);
+        if (!outputs.baseline || outputs.isBaselineWritten) {
+            return findings;
         }
-    }
-    return unknown;
+        return CBaseline(*outputs.baseline).unknown(fileName, findings);
+    };
+    return conformFile(copy, fileName, choose) == ECopied::Yes;
 }
 
 // Checks a file. Returns false when it has errors or cannot be read.
@@ -200,13 +217,14 @@ bool checkFile(SRequest& request, const QString& fileName, SOutputs& outputs, SC
         outputs.errors << error;
         return false;
     }
+    const bool isFixed = !request.fixes || fix(request, fileName, choice, outputs);
     const CXddDocument document = readDescription(fileName);
     if (!document.isOpen() && document.failure().mRule.isEmpty()) {
         complainAbout(fileName, document.failure());
         outputs.sarif.addFailure(fileName, document.failure().text());
         return false;
     }
-    const QList<CXddRemark> findings = compared(outputs, fileName, choice.chosen(CXddChecker::check(document)));
+    const QList<CXddRemark> findings = compared(outputs, fileName, findingsOf(document, choice));
     switch (request.format) {
     case EFormat::Text:
         showText(request, fileName, findings, outputs.output);
@@ -225,7 +243,7 @@ bool checkFile(SRequest& request, const QString& fileName, SOutputs& outputs, SC
     if (!request.quiet && !outputs.isBaselineWritten) {
         reportLine(fileName + QLatin1String(": ") + own.text());
     }
-    return own.errors == 0;
+    return own.errors == 0 && isFixed;
 }
 
 // What is said of a baseline at the end. Returns false where it could not be written.
@@ -266,16 +284,6 @@ QStringList filesOf(const QStringList& names, bool& ok)
     return files;
 }
 
-// Puts a file right, as "xddnormalize --conformant --in-place" does it.
-bool fix(const SRequest& request, const QString& fileName)
-{
-    SCopyRequest copy;
-    copy.destination.inPlace = true;
-    copy.verbose = request.verbose;
-    copy.quiet = request.quiet;
-    return conformFile(copy, fileName) == ECopied::Yes;
-}
-
 int checkAll(SRequest& request, const CCommandLine& line)
 {
     SOutputs outputs;
@@ -293,13 +301,15 @@ int checkAll(SRequest& request, const CCommandLine& line)
     SCounts counts;
     const QStringList files = filesOf(line.files(), ok);
     for (const QString& fileName : files) {
-        ok = (!line.isSet(FIX) || fix(request, fileName)) && ok;
         ok = checkFile(request, fileName, outputs, counts) && ok;
     }
     if (request.format == EFormat::Sarif) {
         outputs.output.write(outputs.sarif.document());
     }
     const bool isShown = outputs.output.finish();
+    if (!outputs.errors.isEmpty()) {
+        return EXIT_USAGE;
+    }
     if (files.size() > 1 && !request.quiet && !outputs.isBaselineWritten) {
         reportLine(QCoreApplication::translate("xddcheck", "%n file(s): ", nullptr, int(files.size())) + counts.text());
     }
@@ -319,7 +329,7 @@ int listRules(SRequest& request)
     const QString error = chooseRules(request, standardStream(), choice);
     if (!error.isEmpty()) {
         reportLine(error);
-        return EXIT_NOT_ALL_DONE;
+        return EXIT_USAGE;
     }
     QStringList lines;
     for (const CXddRule& rule : choice.rules()) {
@@ -416,6 +426,7 @@ QString readRequest(const CCommandLine& line, SRequest& request)
     request.warningsAsErrors = line.isSet(WARNINGS_AS_ERRORS);
     request.verbose = line.isSet(VERBOSE);
     request.quiet = line.isSet(QUIET);
+    request.fixes = line.isSet(FIX);
     request.only = line.values(ONLY);
     request.disabled = line.values(DISABLE);
     const QString format = line.isSet(FORMAT) ? line.value(FORMAT) : FORMATS.first();

@@ -3,6 +3,7 @@
 #include "Descriptions.h"
 #include "Messages.h"
 
+#include <CXddChecker.h>
 #include <CXddNormalizer.h>
 
 #include <QCoreApplication>
@@ -35,6 +36,12 @@ ECopied normalizeFile(const SCopyRequest& request, const QString& fileName)
         return ECopied::WithFault;
     }
     return written;
+}
+
+// A copy for publishing.
+ECopied conform(const SCopyRequest& request, const QString& fileName)
+{
+    return conformFile(request, fileName, [](const CXddDocument& document) { return CXddChecker::check(document); });
 }
 
 int listRules()
@@ -75,7 +82,7 @@ int run(const QStringList& arguments)
     if (line.isSet(LIST_RULES)) {
         return listRules();
     }
-    return line.isSet(CONFORMANT) ? line.writeCopies(conformFile) : line.writeCopies(normalizeFile);
+    return line.writeCopies(line.isSet(CONFORMANT) ? conform : normalizeFile);
 }
 } // namespace
 

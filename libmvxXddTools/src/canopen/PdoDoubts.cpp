@@ -161,7 +161,8 @@ private:
     {
         if (!field.isNumber) {
             if (field.isActive) {
-                add(MAPPING_NOT_STATED, *field.entry, CRemarks::say("it is active, but what it maps is not stated"), {});
+                add(MAPPING_NOT_STATED, *field.entry, CRemarks::say("it is active, but what it maps is not stated"),
+                    {});
             }
             return;
         }

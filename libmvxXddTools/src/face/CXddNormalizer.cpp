@@ -77,13 +77,14 @@ CXddCopy CXddNormalizer::normalize(const CXddDocument& document)
     return copyOf(document, CXmlEdits::ELayout::Indented);
 }
 
-CXddCopy CXddNormalizer::conform(const CXddDocument& document)
+CXddCopy CXddNormalizer::conform(const CXddDocument& document, const QList<CXddRemark>& findings)
 {
     if (document.form() != CXddDevice::FORM_XDD) {
         return normalize(document);
     }
     const SOpened& opened = *openedOf(document);
     CXmlEdits edits(opened.tree, CXmlEdits::ELayout::Indented);
+    edits.limitTo(findings);
     apply({&CNormalizeRules::conform()}, opened.description, edits);
     CXddCopy copy;
     copy.mText = edits.isEmpty() ? document.bytes() : opened.encoded.encode(edits.result());

@@ -27,8 +27,24 @@ CXmlEdits::CXmlEdits(const CXmlTree& tree, ELayout layout)
     , mNewline(tree.text().contains(QLatin1String("\r\n")) ? QStringLiteral("\r\n") : QStringLiteral("\n"))
 {}
 
+void CXmlEdits::limitTo(const QList<CXddRemark>& findings)
+{
+    mWanted.emplace();
+    for (const CXddRemark& finding : findings) {
+        mWanted->insert({finding.mRule, finding.mLine});
+    }
+}
+
+bool CXmlEdits::isWanted(const SPlace& place) const
+{
+    return !mWanted || mWanted->contains({mRemarks.cause().mRule, place.line});
+}
+
 void CXmlEdits::supply(const CXmlElement& element, QLatin1String attribute, const QString& value)
 {
+    if (!isWanted(element.place())) {
+        return;
+    }
     setAttribute(element, attribute, value);
     mRemarks.add(
         element, CRemarks::say("%1=\"%2\" of <%3> supplied"), {attribute, value, SArgument::word(element.name())});
@@ -36,6 +52,9 @@ void CXmlEdits::supply(const CXmlElement& element, QLatin1String attribute, cons
 
 void CXmlEdits::supply(const SEdited& edited, const std::vector<Attribute>& attributes)
 {
+    if (!isWanted(edited.place)) {
+        return;
+    }
     QStringList names;
     for (const Attribute& attribute : attributes) {
         setAttribute(edited.element, attribute.first, attribute.second);
@@ -48,6 +67,9 @@ void CXmlEdits::supply(const SEdited& edited, const std::vector<Attribute>& attr
 
 void CXmlEdits::supplyText(const CXmlElement& element, const QString& text)
 {
+    if (!isWanted(element.place())) {
+        return;
+    }
     replace(element.content(), text);
     mRemarks.add(element, CRemarks::say("%1 supplied"), {SArgument::word(element.name())});
 }
@@ -56,6 +78,9 @@ void CXmlEdits::supplyText(const CXmlElement& element, const QString& text)
 void CXmlEdits::supplyChildren(
     const CXmlElement& parent, const std::vector<SNewElement>& children, const CXmlElement& before)
 {
+    if (!isWanted(parent.place())) {
+        return;
+    }
     const CXmlElement sibling = parent.firstChild();
     const QString parentIndent = indentOf(parent);
     const QString unit = parentIndent.isNull() ? QString() : parentIndent.mid(indentOf(parent.parent()).size());
@@ -105,6 +130,9 @@ void CXmlEdits::supplyMissing(const CXmlElement& parent, const std::vector<SNewE
 
 void CXmlEdits::rewrite(const SEdited& edited, QLatin1String attribute, const QString& value)
 {
+    if (!isWanted(edited.place)) {
+        return;
+    }
     setAttribute(edited.element, attribute, value);
     mRemarks.add(
         edited.place, CRemarks::say("%1 \"%2\" written as \"%3\""),
@@ -113,6 +141,9 @@ void CXmlEdits::rewrite(const SEdited& edited, QLatin1String attribute, const QS
 
 void CXmlEdits::rewriteText(const CXmlElement& element, const QString& text)
 {
+    if (!isWanted(element.place())) {
+        return;
+    }
     replace(element.content(), text);
     mRemarks.add(
         element, CRemarks::say("%1 \"%2\" written as \"%3\""), {SArgument::word(element.name()), element.text(), text});
@@ -120,12 +151,18 @@ void CXmlEdits::rewriteText(const CXmlElement& element, const QString& text)
 
 void CXmlEdits::turnIntoComment(const CXmlElement& element)
 {
+    if (!isWanted(element.place())) {
+        return;
+    }
     comment(element);
     mRemarks.add(element, CRemarks::say("%1 turned into a comment"), {SArgument::word(element.name())});
 }
 
 void CXmlEdits::leave(const SEdited& edited, QLatin1String attribute)
 {
+    if (!isWanted(edited.place)) {
+        return;
+    }
     mLeft << edited.element.valueRange(attribute).begin;
     remarkLeft(
         edited, CRemarks::say("it is unknown or ambiguous"), CRemarks::say("%1 \"%2\" left as it is"),

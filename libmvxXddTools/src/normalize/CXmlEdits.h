@@ -5,8 +5,10 @@
 #include "remarks/SRule.h"
 #include "text/CXmlTree.h"
 
+#include <QPair>
 #include <QSet>
 
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -50,6 +52,11 @@ public:
     using Attribute = std::pair<QLatin1String, QString>;
 
     CXmlEdits(const CXmlTree& tree, ELayout layout);
+
+    /** Makes only the changes that findings ask for: of their rules, in their lines. */
+    void limitTo(const QList<CXddRemark>& findings);
+    /** False for a place at which the changes of the present rule are not to be made. */
+    bool isWanted(const SPlace& place) const;
 
     /** The rule whose changes follow. */
     template <typename Rule> void setCause(const Rule& rule)
@@ -120,6 +127,7 @@ private:
     const CXmlTree& mTree;
     ELayout mLayout;
     QString mNewline;
+    std::optional<QSet<QPair<QString, int>>> mWanted; // Rules and lines; nothing for all of them
     bool mIsOnlyRecorded = false;
     bool mIsComplete = true;
     std::vector<SEdit> mEdits;

@@ -58,6 +58,8 @@ void numberForms(const CDescription& description, CXmlEdits& edits)
     for (const SEntry& entry : description.dictionary().entries()) {
         if (!entry.isSubObject) {
             writeNumber(entry, ATTR_INDEX, HEXADECIMAL, fourDigits, edits);
+        } else if (hasHexadecimalPrefix(entry.element.attribute(ATTR_SUB_INDEX))) {
+            writeNumber(entry, ATTR_SUB_INDEX, HEXADECIMAL, twoDigits, edits);
         }
         for (const QLatin1String attribute : {ATTR_DATA_TYPE, ATTR_OBJ_FLAGS}) {
             const QString text = entry.element.attribute(attribute);
@@ -76,7 +78,7 @@ void numberForms(const CDescription& description, CXmlEdits& edits)
 void subIndexForms(const CDescription& description, CXmlEdits& edits)
 {
     for (const SEntry& entry : description.dictionary().entries()) {
-        if (entry.isSubObject) {
+        if (entry.isSubObject && !hasHexadecimalPrefix(entry.element.attribute(ATTR_SUB_INDEX))) {
             writeNumber(entry, ATTR_SUB_INDEX, HEXADECIMAL, twoDigits, edits);
         }
     }
@@ -145,9 +147,12 @@ void nodeIdForms(const CDescription& description, CXmlEdits& edits)
             const int begin = property.source.range().begin;
             if (property.source == entry.element) {
                 edits.rewrite(entry, attribute, right);
-            } else if (property.source.has(ATTR_VALUE) && !ofParameters.contains(begin)) {
+            } else if (
+                property.source.has(ATTR_VALUE) && edits.isWanted(entry.place()) && !ofParameters.contains(begin)) {
                 ofParameters.insert(begin);
-                edits.rewrite(property.source, ATTR_VALUE, right);
+                SEdited ofEntry = property.source;
+                ofEntry.place = entry.place();
+                edits.rewrite(ofEntry, ATTR_VALUE, right);
             }
         };
         rewrite(ATTR_DEFAULT_VALUE, entry.defaultValue);
