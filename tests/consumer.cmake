@@ -15,7 +15,7 @@ endfunction()
 
 function(expect_program program)
     run("${program}")
-    if(NOT output MATCHES "250 kbit/s\n.*Vendor-ID: 0x00FFFF17\n")
+    if(NOT output MATCHES "Vendor-ID: (UNSIGNED32 )?0x00FFFF17 ?\n")
         message(FATAL_ERROR "${program} printed:\n${output}")
     endif()
 endfunction()

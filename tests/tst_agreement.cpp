@@ -2,8 +2,10 @@
 
 #include <CCanOpenNames.h>
 #include <CXddChecker.h>
+#include <CXddDbcWriter.h>
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
+#include <CXddPage.h>
 
 #include <QtTest>
 
@@ -21,7 +23,11 @@ private Q_SLOTS:
     void pdos();
     void findings_data();
     void findings();
+    void notOpen_data();
+    void notOpen();
 };
+
+Q_DECLARE_METATYPE(CXddDocument)
 
 namespace
 {
@@ -198,6 +204,41 @@ void TestAgreement::findings()
         QVERIFY2(objects.contains(*finding.mIndex), qPrintable(finding.text()));
         QVERIFY2(finding.text().startsWith(finding.entry() + QLatin1String(": ")), qPrintable(finding.text()));
     }
+}
+
+void TestAgreement::notOpen_data()
+{
+    QTest::addColumn<CXddDocument>("document");
+    QTest::newRow("never opened") << CXddDocument();
+    QTest::newRow("empty") << CXddDocument::open(QByteArray());
+    QTest::newRow("no XML") << CXddDocument::open("<a", QStringLiteral("a.xdd"));
+    QTest::newRow("another XML") << CXddDocument::open("<a/>", QStringLiteral("a.xdd"));
+    QTest::newRow("no file") << CXddDocument::openFile(QStringLiteral("absent.eds"));
+}
+
+// Of a document that is not open everything is empty.
+void TestAgreement::notOpen()
+{
+    QFETCH(CXddDocument, document);
+    QVERIFY(!document.isOpen());
+    QCOMPARE(document.form(), CXddDevice::FORM_NONE);
+    QVERIFY(document.remarks().isEmpty() && document.leftOut().isEmpty());
+    QVERIFY(document.entries().isEmpty() && document.pdos().isEmpty() && document.pdos(5).isEmpty());
+    QVERIFY(document.facts(QStringLiteral("en")).isEmpty() && document.fileFacts().isEmpty());
+    QVERIFY(!document.entry(0x1000).isThere() && !document.entry(0x1018, 1).isThere());
+    QCOMPARE(document.texts(0x1000).characters(), 0);
+    QVERIFY(!document.device().mDeviceProfile.mIsStated && !document.device().mIsCommissioned);
+    QCOMPARE(document.device().bitRateInForce(), CNetworkCanOpenProfile::BAUD_INVALID);
+    QCOMPARE(CXddChecker::check(document).size(), 1);
+    QCOMPARE(CXddNormalizer::normalize(document).mText, QByteArray());
+    QCOMPARE(CXddNormalizer::conform(document, {}).mText, QByteArray());
+    QVERIFY(!CXddNormalizer::normalize(document).mLoads);
+    QCOMPARE(CXddEdsWriter::write(document).mText, QByteArray());
+    QCOMPARE(CXddEdsWriter::writeDcf(document, CXddCommissioning()).mText, QByteArray());
+    QCOMPARE(CXddPage::write(document, CXddPage::SOptions()).mText, QByteArray());
+    const CXddDbc dbc = CXddDbcWriter::write({CXddNode(document, 5)});
+    QVERIFY(!dbc.mText.contains("_5_"));
+    QVERIFY(dbc.mRemarks.value(0).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestAgreement)

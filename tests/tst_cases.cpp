@@ -4,6 +4,7 @@
 #include <CXddDbcWriter.h>
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
+#include <CXddPage.h>
 
 #include <QDirIterator>
 #include <QtTest>
@@ -351,6 +352,162 @@ QStringList dbc(const QByteArray& text)
     return lines + linesOf(dbc.mText);
 }
 
+QString said(const CXddValue& value)
+{
+    static const QString origins[] = {
+        QStringLiteral("nothing"), QStringLiteral("entry"), QStringLiteral("parameter"), QStringLiteral("array")};
+    return value.mOrigin == CXddValue::ORIGIN_NONE ? QString()
+                                                   : value.mText + QLatin1Char('@') + origins[value.mOrigin];
+}
+
+// What is not nothing of so many properties, each with its name.
+QString listed(const QString& name, const QList<QPair<const char*, QString>>& properties)
+{
+    QString line = name;
+    for (const auto& [key, value] : properties) {
+        line += value.isEmpty() ? QString() : QStringLiteral(" | %1 %2").arg(QLatin1String(key), value);
+    }
+    return line;
+}
+
+QString numberOrNothing(quint64 number)
+{
+    return number == 0 ? QString() : QString::number(number);
+}
+
+QString flagged(bool isSet)
+{
+    return isSet ? QStringLiteral("yes") : QString();
+}
+
+QString listed(const CXddLabel& label)
+{
+    return label.mLanguage + QLatin1Char(':') + label.mText;
+}
+
+QString listed(const QList<CXddLabel>& labels)
+{
+    QStringList texts;
+    for (const CXddLabel& label : labels) {
+        texts << listed(label);
+    }
+    return texts.join(QLatin1String(", "));
+}
+
+QString listed(const CXddEntryTexts& texts)
+{
+    QStringList values;
+    for (const CXddAllowedValue& value : texts.mAllowedValues) {
+        values << QStringLiteral("%1..%2 %3").arg(value.mLow, value.mHigh, listed(value.mLabels)).trimmed();
+    }
+    return listed(
+        QString(), {{"labels", listed(texts.mLabels)},
+                    {"descriptions", listed(texts.mDescriptions)},
+                    {"units", listed(texts.mUnits)},
+                    {"URI", texts.mUnitUri},
+                    {"multiplier", texts.mMultiplier},
+                    {"offset", texts.mOffset},
+                    {"values", values.join(QLatin1String("; "))}});
+}
+
+QString listed(const QString& name, const CXddPdoField& field)
+{
+    return listed(
+        name + QLatin1Char(' ') + field.entry(), {{"bits", QStringLiteral("%1+%2").arg(field.mOffset).arg(field.mBits)},
+                                                  {"kind", QString::number(field.mKind)},
+                                                  {"type", numberOrNothing(field.mDataType)},
+                                                  {"name", field.fullName()},
+                                                  {"range", field.rangeText()}});
+}
+
+QStringList listed(const CXddPdo& pdo)
+{
+    const QString type = pdo.mTransmissionType ? QString::number(*pdo.mTransmissionType) : QString();
+    QStringList lines = {listed(
+        pdo.name(), {{"CAN-ID", pdo.canIdText()},
+                     {"extended", flagged(pdo.mIsExtended)},
+                     {"enabled", flagged(pdo.mIsEnabled)},
+                     {"by node-ID", flagged(pdo.mUsesNodeId)},
+                     {"RTR", flagged(pdo.mAllowsRtr)},
+                     {"multiplexed", flagged(pdo.mIsMultiplexed)},
+                     {"type", type},
+                     {"sent", CXddPdo::transmissionAsStr(pdo.mTransmission)},
+                     {"inhibited", numberOrNothing(pdo.mInhibitTime)},
+                     {"timer", numberOrNothing(pdo.mEventTimer)},
+                     {"SYNC start", numberOrNothing(pdo.mSyncStart)},
+                     {"bytes", numberOrNothing(quint64(pdo.bytes()))}})};
+    for (const CXddPdoField& field : pdo.mFields) {
+        lines << listed(pdo.name(), field);
+    }
+    for (const CXddPdoField& field : pdo.mBeyond) {
+        lines << listed(pdo.name() + QStringLiteral(" beyond"), field);
+    }
+    for (const CXddRemark& doubt : pdo.mDoubts) {
+        lines << QStringLiteral("%1 %2: %3 [%4]")
+                     .arg(pdo.name(), CXddRemark::severityAsStr(doubt.mSeverity), doubt.text(), doubt.mRule);
+    }
+    return lines;
+}
+
+QString listed(const CXddDocument& document, const CXddEntry& entry)
+{
+    const QString texts = listed(document.texts(entry.mIndex, entry.mSubIndex));
+    return listed(
+               entry.address(), {{"name", entry.fullName()},
+                                 {"type", entry.typeText()},
+                                 {"access", entry.accessText()},
+                                 {"mapping", entry.mappingText()},
+                                 {"default", said(entry.mDefaultValue)},
+                                 {"actual", said(entry.mActualValue)},
+                                 {"in force", entry.value().mText},
+                                 {"low", said(entry.mLowLimit)},
+                                 {"high", said(entry.mHighLimit)},
+                                 {"range", entry.rangeText()}})
+           + texts;
+}
+
+// What the model says of the device, its entries and its PDOs at node-ID 5, for a reader of German.
+QStringList modelled(const QByteArray& text)
+{
+    const CXddDocument document = CXddDocument::open(text);
+    QStringList lines;
+    for (const CXddFact& fact : document.facts(QStringLiteral("de-AT")) + document.fileFacts()) {
+        lines << fact.mName + QLatin1String(": ") + fact.mValue;
+    }
+    const CXddDevice device = document.device();
+    lines << QStringLiteral("bit rate in force: %1").arg(device.bitRateInForce());
+    for (const CXddFeature& feature : device.mGeneralFeatures + device.mMasterFeatures) {
+        const std::optional<bool> flag = device.flag(feature.mName);
+        lines << QStringLiteral("%1 %2 %3").arg(feature.mName, feature.mText, flag ? flagged(*flag) : QString());
+    }
+    const CXddCommissioning commissioning = device.mCommissioning;
+    lines << listed(
+        QStringLiteral("commissioned ") + flagged(device.mIsCommissioned),
+        {{"node-ID", numberOrNothing(commissioning.mNodeId)},
+         {"name", commissioning.mNodeName},
+         {"bit rate", QString::number(commissioning.mBaudrate)},
+         {"network", numberOrNothing(commissioning.mNetworkNumber) + commissioning.mNetworkName},
+         {"manager", commissioning.mIsManager ? QString::number(int(*commissioning.mIsManager)) : QString()}});
+    for (const CXddEntry& entry : document.entries()) {
+        lines << listed(document, entry);
+    }
+    for (const CXddPdo& pdo : document.pdos(5)) {
+        lines << listed(pdo);
+    }
+    return lines;
+}
+
+// The lines of a page, without those on the bytes of the file.
+QStringList paged(const QByteArray& text)
+{
+    static const QRegularExpression bytes(QStringLiteral("^<p>(page\\.xdd|SHA-256)"));
+    QStringList lines = linesOf(CXddPage::write(CXddDocument::open(text, QStringLiteral("page.xdd")), {}).mText);
+    lines.erase(
+        std::remove_if(lines.begin(), lines.end(), [](const QString& line) { return bytes.match(line).hasMatch(); }),
+        lines.end());
+    return lines;
+}
+
 using Kinds = QMap<QString, std::function<QStringList(const QByteArray&)>>;
 const Kinds& kinds()
 {
@@ -359,7 +516,8 @@ const Kinds& kinds()
         {QStringLiteral("normalize"), normalized}, {QStringLiteral("load-normalized"), loadedNormalized},
         {QStringLiteral("check"), checked},        {QStringLiteral("eds"), converted},
         {QStringLiteral("load-eds"), loadedEds},   {QStringLiteral("dbc"), dbc},
-        {QStringLiteral("conform"), conformed},
+        {QStringLiteral("conform"), conformed},    {QStringLiteral("model"), modelled},
+        {QStringLiteral("page"), paged},
     };
     return kinds;
 }

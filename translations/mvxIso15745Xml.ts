@@ -1119,10 +1119,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>TransportLayers, PhysicalLayer, baudRate, its defaultValue or every supportedBaudRate is missing: 250 Kbps, or the default rate as the supported one</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>the default of the format is 250 Kbps</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2222,6 +2218,14 @@
         <source>%1 &quot;%2&quot; of %3 is not a number and is not applied</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>left out: it defines a data type, which an EDS does not list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TransportLayers, PhysicalLayer, baudRate or every supportedBaudRate is missing: 250 Kbps, or the default rate as the supported one</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tools</name>
@@ -2426,15 +2430,15 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The node-ID of the DCF, unless the description states it.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The name of the node of the DCF.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The bit rate of the DCF in kbit/s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The node-ID of the DCF; without it the one that the description states.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2457,10 +2461,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The node-ID that CAN-IDs are those of, unless the description states it.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The language of the pages, en or de; en without it.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2470,6 +2470,10 @@
     </message>
     <message>
         <source>There are no pages in the language &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The node-ID of the CAN-IDs; without it the one that the description states.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2527,10 +2531,6 @@
     </message>
     <message>
         <source>%1: This is no baseline.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: These are no settings.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2621,6 +2621,10 @@
     </message>
     <message>
         <source>A description, or a folder with descriptions; - is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a section, a key with &quot;=&quot; nor a comment.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2952,15 +2956,15 @@
         <source>Show what each PDO carries, bit by bit.</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>With --pdos: the node-ID that CAN-IDs are those of, unless the description states it.</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message numerus="yes">
         <source>%1: %n place(s) not written as the format does, read as meant; xddcheck lists them.</source>
         <translation type="unfinished">
             <numerusform></numerusform>
         </translation>
+    </message>
+    <message>
+        <source>With --pdos: the node-ID of the CAN-IDs; without it the one that the description states.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

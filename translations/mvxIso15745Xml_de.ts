@@ -1121,10 +1121,6 @@
         <translation>so schreibt das Format dieselbe Rate</translation>
     </message>
     <message>
-        <source>TransportLayers, PhysicalLayer, baudRate, its defaultValue or every supportedBaudRate is missing: 250 Kbps, or the default rate as the supported one</source>
-        <translation>TransportLayers, PhysicalLayer, baudRate, deren defaultValue oder jede supportedBaudRate fehlt: 250 Kbps, oder die Standardrate als unterstützte</translation>
-    </message>
-    <message>
         <source>the default of the format is 250 Kbps</source>
         <translation>die Vorgabe des Formats ist 250 Kbps</translation>
     </message>
@@ -2160,75 +2156,83 @@
     </message>
     <message>
         <source>left out: the index is not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>weggelassen: Der Index ist nicht lesbar</translation>
     </message>
     <message>
         <source>left out: the object duplicates line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>weggelassen: Das Objekt steht schon in Zeile %1</translation>
     </message>
     <message>
         <source>%1 &quot;%2&quot; is not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 „%2“ ist nicht verständlich</translation>
     </message>
     <message>
         <source>Specification</source>
-        <translation type="unfinished"></translation>
+        <translation>Spezifikation</translation>
     </message>
     <message>
         <source>File, device</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei, Gerät</translation>
     </message>
     <message>
         <source>File, network</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei, Netzwerk</translation>
     </message>
     <message>
         <source>no COB-ID is stated: the predefined one is taken, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist keine COB-ID angegeben: Es gilt die vordefinierte, %1</translation>
     </message>
     <message>
         <source>it is active, but what it maps is not stated</source>
-        <translation type="unfinished"></translation>
+        <translation>er ist aktiv, doch was er abbildet, ist nicht angegeben</translation>
     </message>
     <message>
         <source>A PDO states no COB-ID</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein PDO gibt keine COB-ID an</translation>
     </message>
     <message>
         <source>Tools take the predefined one, or none. State it as the default value of sub-index 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeuge nehmen die vordefinierte oder keine. Als Vorgabewert von Subindex 1 angeben.</translation>
     </message>
     <message>
         <source>A mapping does not state how many entries are active, or what an active one maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Mapping gibt nicht an, wie viele Einträge aktiv sind oder was ein aktiver abbildet</translation>
     </message>
     <message>
         <source>Tools map all entries, the first ones or none. State a default value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeuge bilden alle Einträge ab, die ersten oder keinen. Einen Vorgabewert angeben.</translation>
     </message>
     <message>
         <source>An entry of a mapping that is not active maps something that cannot be mapped so</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein nicht aktiver Mapping-Eintrag bildet etwas ab, das sich so nicht abbilden lässt</translation>
     </message>
     <message>
         <source>Nothing is wrong on the bus until somebody activates it. Correct the entry, or set it to 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Bus ist nichts falsch, bis ihn jemand aktiviert. Den Eintrag berichtigen oder auf 0 setzen.</translation>
     </message>
     <message>
         <source>%1 &quot;%2&quot; of &lt;%3&gt; is not a number</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 „%2“ von &lt;%3&gt; ist keine Zahl</translation>
     </message>
     <message>
         <source>multiplier or offset of a parameter is not a number</source>
-        <translation type="unfinished"></translation>
+        <translation>multiplier oder offset eines Parameters ist keine Zahl</translation>
     </message>
     <message>
         <source>Tools show raw values as physical ones. Write a decimal number with a point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeuge zeigen Rohwerte als physikalische Werte. Eine Dezimalzahl mit Punkt schreiben.</translation>
     </message>
     <message>
         <source>%1 &quot;%2&quot; of %3 is not a number and is not applied</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 „%2“ von %3 ist keine Zahl und wird nicht angewendet</translation>
+    </message>
+    <message>
+        <source>left out: it defines a data type, which an EDS does not list</source>
+        <translation>weggelassen: Es definiert einen Datentyp; eine EDS führt keine auf</translation>
+    </message>
+    <message>
+        <source>TransportLayers, PhysicalLayer, baudRate or every supportedBaudRate is missing: 250 Kbps, or the default rate as the supported one</source>
+        <translation>TransportLayers, PhysicalLayer, baudRate oder jedes supportedBaudRate fehlt: 250 Kbps oder die Vorgaberate als die unterstützte</translation>
     </message>
 </context>
 <context>
@@ -2439,16 +2443,16 @@
         <translation>Eine DCF schreiben, mit Istwerten und Einstellungen.</translation>
     </message>
     <message>
-        <source>The node-ID of the DCF, unless the description states it.</source>
-        <translation>Die Knotennummer der DCF, wenn die Beschreibung sie nicht angibt.</translation>
-    </message>
-    <message>
         <source>The name of the node of the DCF.</source>
         <translation>Der Name des Knotens der DCF.</translation>
     </message>
     <message>
         <source>The bit rate of the DCF in kbit/s.</source>
         <translation>Die Bitrate der DCF in kbit/s.</translation>
+    </message>
+    <message>
+        <source>The node-ID of the DCF; without it the one that the description states.</source>
+        <translation>Die Knotennummer der DCF; ohne sie die, die die Beschreibung angibt.</translation>
     </message>
 </context>
 <context>
@@ -2470,10 +2474,6 @@
         <translation>Die Seiten nach DIR schreiben, benannt wie die Dateien mit .html, und index.html, das zu ihnen führt.</translation>
     </message>
     <message>
-        <source>The node-ID that CAN-IDs are those of, unless the description states it.</source>
-        <translation>Die Knotennummer, deren CAN-IDs gezeigt werden, wenn die Beschreibung keine angibt.</translation>
-    </message>
-    <message>
         <source>The language of the pages, en or de; en without it.</source>
         <translation>Die Sprache der Seiten, en oder de; ohne Angabe en.</translation>
     </message>
@@ -2484,6 +2484,10 @@
     <message>
         <source>There are no pages in the language &quot;%1&quot;.</source>
         <translation>Es gibt keine Seiten in der Sprache &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>The node-ID of the CAN-IDs; without it the one that the description states.</source>
+        <translation>Die Knotennummer der CAN-IDs; ohne sie die, die die Beschreibung angibt.</translation>
     </message>
 </context>
 <context>
@@ -2544,10 +2548,6 @@
     <message>
         <source>%1: This is no baseline.</source>
         <translation>%1: Das ist kein Grundstand.</translation>
-    </message>
-    <message>
-        <source>%1: These are no settings.</source>
-        <translation>%1: Das sind keine Einstellungen.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a setting: these are %2.</source>
@@ -2641,6 +2641,10 @@
     <message>
         <source>A description, or a folder with descriptions; - is standard input.</source>
         <translation>Eine Beschreibung oder ein Ordner mit Beschreibungen; - ist die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a section, a key with &quot;=&quot; nor a comment.</source>
+        <translation>„%1“ ist weder ein Abschnitt noch ein Schlüssel mit „=“ noch ein Kommentar.</translation>
     </message>
 </context>
 <context>
@@ -2972,16 +2976,16 @@
         <source>Show what each PDO carries, bit by bit.</source>
         <translation>Zeigen, was jedes PDO trägt, Bit für Bit.</translation>
     </message>
-    <message>
-        <source>With --pdos: the node-ID that CAN-IDs are those of, unless the description states it.</source>
-        <translation>Mit --pdos: die Knotennummer, deren CAN-IDs gezeigt werden, wenn die Beschreibung keine angibt.</translation>
-    </message>
     <message numerus="yes">
         <source>%1: %n place(s) not written as the format does, read as meant; xddcheck lists them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: Eine Stelle ist nicht so geschrieben, wie das Format es verlangt, und sinngemäß gelesen; xddcheck führt sie auf.</numerusform>
+            <numerusform>%1: %n Stellen sind nicht so geschrieben, wie das Format es verlangt, und sinngemäß gelesen; xddcheck führt sie auf.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>With --pdos: the node-ID of the CAN-IDs; without it the one that the description states.</source>
+        <translation>Mit --pdos: die Knotennummer der CAN-IDs; ohne sie die, die die Beschreibung angibt.</translation>
     </message>
 </context>
 <context>

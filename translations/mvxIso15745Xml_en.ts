@@ -157,9 +157,9 @@
     </message>
     <message numerus="yes">
         <source>%1: %n place(s) not written as the format does, read as meant; xddcheck lists them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: one place is not written as the format does, and read as meant; xddcheck lists it.</numerusform>
+            <numerusform>%1: %n places are not written as the format does, and read as meant; xddcheck lists them.</numerusform>
         </translation>
     </message>
 </context>

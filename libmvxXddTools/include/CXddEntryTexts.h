@@ -15,7 +15,14 @@ public:
     /** A text in a language. */
     CXddLabel(const QString& language, const QString& text);
 
-    /** The texts in a language such as "de", else those in English, else all; several are separated by "; ". */
+    /** The language tag of a locale: "de-AT" of "de_AT.UTF-8"; a tag stays as it is. */
+    static QString languageTag(const QString& locale);
+
+    /** True for a text in a language, such as one in "de-AT" for "de" and one in "de" for "de-AT". */
+    bool isIn(const QString& language) const;
+
+    /** The texts in a language such as "de-AT", else those in "de", else those in English, else all; several are
+     * separated by "; ". */
     static QString chosen(const QList<CXddLabel>& labels, const QString& language);
 
     QString mLanguage; ///< "lang", such as "en" or "de-AT"; empty where none is stated

@@ -25,7 +25,7 @@ public:
     struct SOptions
     {
         unsigned int mNodeId = 0;                 ///< That of CAN-IDs; 0 for the one that the description states
-        QString mLanguage = QStringLiteral("en"); ///< "lang" of the page; texts in it come first
+        QString mLanguage = QStringLiteral("en"); ///< Of the page, such as "de-AT"; texts in it come first
         bool mHasFindings = true;                 ///< With what the checker finds
     };
 

@@ -10,7 +10,6 @@
 namespace
 {
 const QString NAME = QStringLiteral("mvxIso15745Xml");
-const QString ENGLISH = QStringLiteral("en");
 
 // Where the catalogue of the tools is looked for.
 QStringList folders()
@@ -86,5 +85,5 @@ COtherLanguage::~COtherLanguage()
 
 bool COtherLanguage::isThere() const
 {
-    return mTranslator != nullptr || mLanguage == ENGLISH;
+    return mTranslator != nullptr || QLocale(mLanguage).language() == QLocale::English;
 }

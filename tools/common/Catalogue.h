@@ -21,7 +21,7 @@ class QTranslator;
 class COtherLanguage
 {
 public:
-    /** @p language is one such as "de". */
+    /** @p language is one such as "de" or "de-AT". */
     explicit COtherLanguage(const QString& language);
     COtherLanguage(const COtherLanguage&) = delete;
     COtherLanguage(COtherLanguage&&) = delete;

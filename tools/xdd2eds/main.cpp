@@ -94,7 +94,8 @@ int run(const QStringList& arguments)
         QCoreApplication::translate("xdd2eds", "Report every loss separately."),
         QCoreApplication::translate("xdd2eds", "Report nothing."));
     line.add({DCF}, QCoreApplication::translate("xdd2eds", "Write a DCF, with actual values and what is configured."));
-    line.addNodeId(QCoreApplication::translate("xdd2eds", "The node-ID of the DCF, unless the description states it."));
+    line.addNodeId(QCoreApplication::translate(
+        "xdd2eds", "The node-ID of the DCF; without it the one that the description states."));
     line.add(
         {NODE_NAME}, QCoreApplication::translate("xdd2eds", "The name of the node of the DCF."),
         QStringLiteral("NAME"));

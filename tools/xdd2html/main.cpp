@@ -63,7 +63,7 @@ int run(const QStringList& arguments)
         QCoreApplication::translate(
             "xdd2html", "Write the pages to DIR, named as the files with .html, and index.html, which leads to them."));
     line.addNodeId(QCoreApplication::translate(
-        "xdd2html", "The node-ID that CAN-IDs are those of, unless the description states it."));
+        "xdd2html", "The node-ID of the CAN-IDs; without it the one that the description states."));
     line.add(
         {LANG}, QCoreApplication::translate("xdd2html", "The language of the pages, en or de; en without it."),
         QStringLiteral("LANG"));

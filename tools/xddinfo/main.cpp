@@ -265,7 +265,7 @@ int run(const QStringList& arguments)
         QStringLiteral("TEXT"));
     line.add({PDOS}, QCoreApplication::translate("xddinfo", "Show what each PDO carries, bit by bit."));
     line.addNodeId(QCoreApplication::translate(
-        "xddinfo", "With --pdos: the node-ID that CAN-IDs are those of, unless the description states it."));
+        "xddinfo", "With --pdos: the node-ID of the CAN-IDs; without it the one that the description states."));
     line.add({SAMPLE}, QCoreApplication::translate("xddinfo", "Show the sample that the library carries."));
     line.add(
         {STRICT}, QCoreApplication::translate(

@@ -3,6 +3,7 @@
 #include "check/CCheckRules.h"
 #include "check/Walks.h"
 #include "names/ObjectCodes.h"
+#include "names/Objects.h"
 
 #include <QHash>
 
@@ -51,7 +52,8 @@ void duplicateSubIndex(const CDescription& description, CRemarks& findings)
 void indexRange(const CDescription& description, CRemarks& findings)
 {
     forObjects(description, [&](const SEntry& object) {
-        if (object.index && !isBetween(*object.index, 0x0001, 0x025F) && !isBetween(*object.index, 0x1000, 0xBFFF)) {
+        if (object.index && !isBetween(*object.index, 0x0001, LAST_DATA_TYPE)
+            && !isBetween(*object.index, 0x1000, 0xBFFF)) {
             findings.add(object, CRemarks::say("the index is reserved"));
         }
     });

@@ -7,6 +7,7 @@
 #include "eds/EdsRules.h"
 #include "eds/EdsValues.h"
 #include "names/DataTypes.h"
+#include "names/Hexadecimal.h"
 #include "names/NEdsWords.h"
 #include "names/NFormatWords.h"
 #include "names/ObjectCodes.h"
@@ -31,20 +32,26 @@ const QLatin1String XMLNS_XSI("xmlns:xsi");
 const QLatin1String XSI_SCHEMA_LOCATION("xsi:schemaLocation");
 const QLatin1String XSI_TYPE("xsi:type");
 
-// Decimal, whatever it begins with. With a version that is no number the text as it stands.
+// Never octal: "08" is 8.
+std::optional<unsigned int> versionNumber(const SEdsKey* key)
+{
+    bool ok = false;
+    const QString text = key == nullptr ? QString() : key->value.toString();
+    const unsigned int number = text.toUInt(&ok, hasHexadecimalPrefix(text) ? 16 : 10);
+    return ok ? std::make_optional(number) : std::nullopt;
+}
+
+// With a version that is no number the text as it stands.
 QString fileVersion(const SEdsSection& info)
 {
-    bool hasVersion = false;
-    bool hasRevision = false;
     const SEdsKey* const key = info.key(FILE_VERSION);
-    const SEdsKey* const behind = info.key(FILE_REVISION);
-    const unsigned int version = key == nullptr ? 0 : key->value.toUInt(&hasVersion);
-    const unsigned int revision = behind == nullptr ? 0 : behind->value.toUInt(&hasRevision);
-    if (!hasVersion) {
+    const std::optional<unsigned int> version = versionNumber(key);
+    const std::optional<unsigned int> revision = versionNumber(info.key(FILE_REVISION));
+    if (!version) {
         return key == nullptr ? QStringLiteral("") : key->value.toString();
     }
-    return hasRevision ? QStringLiteral("%1.%2").arg(QString::number(version), QString::number(revision))
-                       : QString::number(version);
+    return revision ? QStringLiteral("%1.%2").arg(QString::number(*version), QString::number(*revision))
+                    : QString::number(*version);
 }
 
 bool isSet(const SEdsKey* key)

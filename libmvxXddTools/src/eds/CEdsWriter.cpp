@@ -8,11 +8,13 @@
 #include "names/NEdsWords.h"
 #include "names/NFormatWords.h"
 #include "names/ObjectCodes.h"
+#include "names/Objects.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <climits>
 #include <vector>
 
 using namespace NIso15745Tags;
@@ -43,15 +45,21 @@ QString featureText(const CXmlElement& element, QLatin1String attribute)
     return number ? QString::number(*number) : QString();
 }
 
-// The two numbers of a file version such as "2.7": 1 and 0 for a text that does not begin with such numbers.
+// The two numbers of a file version such as "2.7" or "0x03": 1 and 0 for a text that does not begin with such numbers.
 std::pair<int, int> versionOf(const QString& text)
 {
-    static const QRegularExpression form(QStringLiteral("^\\s*0*(\\d{1,3})(?:\\.0*(\\d{1,3}))?(?:\\D.*)?$"));
+    static const QRegularExpression form(
+        QStringLiteral("^\\s*(0x[0-9a-f]+|\\d+)(?:\\.(0x[0-9a-f]+|\\d+))?(?:\\D.*)?$"),
+        QRegularExpression::CaseInsensitiveOption);
+    const auto numberOf = [](const QString& digits) {
+        bool ok = false;
+        const int number = digits.toInt(&ok, hasHexadecimalPrefix(digits) ? 16 : 10);
+        return ok ? number : INT_MAX;
+    };
     const QRegularExpressionMatch match = form.match(text);
-    const int version = match.captured(1).toInt();
-    const int revision = match.captured(2).toInt();
-    return match.hasMatch() && version <= 255 && revision <= 255 ? std::make_pair(version, revision)
-                                                                 : std::make_pair(1, 0);
+    const int version = numberOf(match.captured(1));
+    const int revision = match.captured(2).isEmpty() ? 0 : numberOf(match.captured(2));
+    return version <= 255 && revision <= 255 ? std::make_pair(version, revision) : std::make_pair(1, 0);
 }
 
 QString fileNameOf(const CXmlElement& body, QLatin1String ending)
@@ -129,7 +137,9 @@ void CEdsWriter::chooseSubObjects(SObject& object)
 
 bool CEdsWriter::canSay(const SEntry& object)
 {
-    if (!object.index || *object.index < 0x1000 || *object.index > 0xFFFF) {
+    if (object.index && *object.index > 0 && *object.index <= LAST_DATA_TYPE) {
+        lose(object, LEFT_OUT, CRemarks::say("left out: it defines a data type, which an EDS does not list"));
+    } else if (!object.index || *object.index < 0x1000 || *object.index > 0xFFFF) {
         lose(object, LEFT_OUT, CRemarks::say("left out: an EDS cannot have this index"));
     } else if (!objectCodeOf(object.objectCode.value_or(0)).isInEds) {
         lose(

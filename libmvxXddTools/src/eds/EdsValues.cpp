@@ -10,6 +10,8 @@
 
 namespace
 {
+constexpr int FIRST_YEAR = 1970; // Programs write an earlier one where they know none
+
 // The suffix of a number literal in C.
 QString withoutSuffix(const QString& text)
 {
@@ -200,9 +202,13 @@ SEdsMeaning<QDate> edsDateOf(QStringView text)
     } else if (month > 12) {
         isPlain = false;
         std::swap(month, day);
+    } else if (match.captured(2) == QLatin1String(".") && day <= 12 && day != month) {
+        return {std::nullopt, false}; // With dots the day comes first at least as often
     }
-    const QDate date(year < 100 ? year + 2000 : year, month, day);
-    return {match.hasMatch() && date.isValid() ? std::optional<QDate>(date) : std::nullopt, isPlain};
+    const bool isShort = match.capturedLength(1) <= 2 && match.capturedLength(4) <= 2;
+    const QDate date(isShort ? year + 2000 : year, month, day);
+    const bool isMeant = match.hasMatch() && date.isValid() && date.year() >= FIRST_YEAR;
+    return {isMeant ? std::optional<QDate>(date) : std::nullopt, isPlain};
 }
 
 SEdsMeaning<QTime> edsTimeOf(QStringView text)

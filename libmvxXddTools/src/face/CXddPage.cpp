@@ -20,10 +20,10 @@ CXddPage CXddPage::write(const CXddDocument& document, const SOptions& options)
     if (opened == nullptr) {
         return result;
     }
-    SPage page{opened->description, result.mSource,    document.bytes(),
-               options.mLanguage,   document.device(), document.entries()};
+    SPage page{opened->description, result.mSource,    document.bytes(), CXddLabel::languageTag(options.mLanguage),
+               document.device(),   document.entries()};
     page.hasFindings = options.mHasFindings;
-    page.facts = document.facts(options.mLanguage);
+    page.facts = document.facts(page.language);
     page.fileFacts = document.fileFacts();
     page.pdos = document.pdos(options.mNodeId);
     page.findings = CXddChecker::check(document);
@@ -41,7 +41,7 @@ CXddPage CXddPage::write(const CXddDocument& document, const SOptions& options)
 QByteArray CXddPage::index(const QList<CXddPage>& pages, const QString& language)
 {
     CHtml html;
-    CPageWriter::begin(html, CPageWriter::tr("CANopen devices"), language, QByteArray());
+    CPageWriter::begin(html, CPageWriter::tr("CANopen devices"), CXddLabel::languageTag(language), QByteArray());
     html.open("main").line().element("h1", CPageWriter::tr("CANopen devices")).line();
     html.open("div", {{"class", QStringLiteral("wide")}}).open("table").open("thead").open("tr");
     for (const QString& head :

@@ -264,7 +264,7 @@ void CDictionaryTables::writeLabels(const QList<CXddLabel>& labels, const QStrin
 {
     for (const bool isChosen : {true, false}) {
         for (const CXddLabel& label : labels) {
-            const bool isIn = label.mLanguage.startsWith(mPage.language, Qt::CaseInsensitive);
+            const bool isIn = label.isIn(mPage.language);
             if (isIn == isChosen && label.mText != except) {
                 mHtml.element(
                     "p", label.mText,

@@ -6,6 +6,7 @@
  * canopen/Pdos.h.
  */
 
+constexpr unsigned int LAST_DATA_TYPE = 0x025F; ///< Objects from 1 on define data types
 constexpr unsigned int DEVICE_TYPE = 0x1000;
 constexpr unsigned int SYNC_COB_ID = 0x1005;
 constexpr unsigned int SYNC_CYCLE = 0x1006; ///< Its time in microseconds

@@ -10,14 +10,13 @@ SNewElement supportedRate(const QString& rate)
     return {TAG_SUPPORTED_BAUD_RATE, QStringLiteral("value=\"%1\"").arg(rate), QString()};
 }
 
-SNewElement defaultPhysicalLayer()
+// An EDS has no default bit rate.
+SNewElement defaultPhysicalLayer(bool hasDefault)
 {
-    const SNewElement baudRate = {
-        TAG_BAUD_RATE,
-        QStringLiteral("defaultValue=\"%1\"").arg(VAL_BAUD_250_KBPS),
-        QString(),
-        {supportedRate(VAL_BAUD_250_KBPS)}};
-    return around(TAG_PHYSICAL_LAYER, baudRate);
+    const QString attribute = QStringLiteral("defaultValue=\"%1\"").arg(VAL_BAUD_250_KBPS);
+    return around(
+        TAG_PHYSICAL_LAYER,
+        {TAG_BAUD_RATE, hasDefault ? attribute : QString(), QString(), {supportedRate(VAL_BAUD_250_KBPS)}});
 }
 
 // The format's text of a bit rate; nothing when a text means none.
@@ -29,22 +28,21 @@ QString rateText(const QString& text)
 
 void missingRates(const CDescription& description, CXmlEdits& edits)
 {
+    const bool hasDefault = description.isXdd();
     for (const CXmlElement& body : description.bodies(EProfile::Network)) {
         const CXmlElement layers = body.child(TAG_TRANSPORT_LAYERS);
         const CXmlElement physicalLayer = layers.child(TAG_PHYSICAL_LAYER);
         const CXmlElement baudRate = physicalLayer.child(TAG_BAUD_RATE);
         if (layers.isNull()) {
             edits.supplyChildren(
-                body, {around(TAG_TRANSPORT_LAYERS, defaultPhysicalLayer())}, body.child(TAG_NETWORK_MANAGEMENT));
+                body, {around(TAG_TRANSPORT_LAYERS, defaultPhysicalLayer(hasDefault))},
+                body.child(TAG_NETWORK_MANAGEMENT));
         } else if (physicalLayer.isNull()) {
-            edits.supplyChildren(layers, {defaultPhysicalLayer()});
+            edits.supplyChildren(layers, {defaultPhysicalLayer(hasDefault)});
         } else if (baudRate.isNull()) {
-            edits.supplyChildren(physicalLayer, defaultPhysicalLayer().children);
+            edits.supplyChildren(physicalLayer, defaultPhysicalLayer(hasDefault).children);
         } else {
             const bool stated = baudRate.has(ATTR_DEFAULT_VALUE);
-            if (!stated) {
-                edits.supply(baudRate, ATTR_DEFAULT_VALUE, VAL_BAUD_250_KBPS);
-            }
             const QString rate = stated ? rateText(baudRate.attribute(ATTR_DEFAULT_VALUE)) : VAL_BAUD_250_KBPS;
             if (baudRate.child(TAG_SUPPORTED_BAUD_RATE).isNull() && !rate.isEmpty()) {
                 edits.supplyChildren(baudRate, {supportedRate(rate)});
@@ -83,7 +81,7 @@ const NormalizeRules& CNormalizeRules::bitRate()
          QT_TR_NOOP("the format writes the same rate in this way"), rateWritings},
         {"bit-rate", NOTE,
          QT_TR_NOOP(
-             "TransportLayers, PhysicalLayer, baudRate, its defaultValue or every supportedBaudRate is missing: 250 Kbps, or the default rate as the supported one"),
+             "TransportLayers, PhysicalLayer, baudRate or every supportedBaudRate is missing: 250 Kbps, or the default rate as the supported one"),
          QT_TR_NOOP("the default of the format is 250 Kbps"), missingRates},
     };
     return rules;
