@@ -1323,7 +1323,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Tools do not agree on the number and type of the elements. Set SubNumber to 0 and state the type.</source>
+        <source>Tools count the elements differently. Set SubNumber to 0 and state the type.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1347,7 +1347,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>A tool that looks a device up by its identity finds another revision. State the same at both places.</source>
+        <source>Tools that go by the identity find another revision. State the same at both places.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

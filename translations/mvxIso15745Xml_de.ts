@@ -1325,8 +1325,8 @@
         <translation>CompactSubObj steht zusammen mit SubNumber oder ohne DataType</translation>
     </message>
     <message>
-        <source>Tools do not agree on the number and type of the elements. Set SubNumber to 0 and state the type.</source>
-        <translation>Werkzeuge sind sich über Zahl und Typ der Elemente nicht einig. SubNumber auf 0 setzen und den Typ angeben.</translation>
+        <source>Tools count the elements differently. Set SubNumber to 0 and state the type.</source>
+        <translation>Werkzeuge zählen die Elemente verschieden. SubNumber auf 0 setzen und den Typ angeben.</translation>
     </message>
     <message>
         <source>DummyUsage has fewer than its seven keys</source>
@@ -1349,8 +1349,8 @@
         <translation>RevisionNumber ist nicht der Vorgabewert von 0x1018:03</translation>
     </message>
     <message>
-        <source>A tool that looks a device up by its identity finds another revision. State the same at both places.</source>
-        <translation>Ein Werkzeug, das ein Gerät nach seiner Identität sucht, findet eine andere Revision. An beiden Stellen dasselbe angeben.</translation>
+        <source>Tools that go by the identity find another revision. State the same at both places.</source>
+        <translation>Werkzeuge, die nach der Identität gehen, finden eine andere Revision. An beiden Stellen dasselbe angeben.</translation>
     </message>
     <message>
         <source>The commissioning has another name, a NodeID not from 1 to 127, or a bit rate that is not supported</source>

@@ -45,18 +45,16 @@ const CheckRules& CCheckRules::eds()
          nullptr, "[1018sub100]", "[1018sub4]"},
         {"compact-conflict", WARNING,
          QT_TR_NOOP("CompactSubObj is there together with SubNumber, or without a DataType"),
-         QT_TR_NOOP(
-             "Tools do not agree on the number and type of the elements. Set SubNumber to 0 and state the type."),
-         nullptr, "CompactSubObj=4 with [2000sub1]", "CompactSubObj=4 alone"},
+         QT_TR_NOOP("Tools count the elements differently. Set SubNumber to 0 and state the type."), nullptr,
+         "CompactSubObj=4 with [2000sub1]", "CompactSubObj=4 alone"},
         {"dummy-usage", WARNING, QT_TR_NOOP("DummyUsage has fewer than its seven keys"),
          QT_TR_NOOP("Tools refuse the file. State Dummy0001 to Dummy0007."), nullptr, "Dummy0005=yes", "Dummy0005=1"},
         {"comment-lines", WARNING, QT_TR_NOOP("Lines is not the number of comment lines, or is written otherwise"),
          QT_TR_NOOP("Tools refuse the file or lose comments. Number the lines from Line1 and state how many they are."),
          nullptr, "Lines=3 with Line1= only", "Lines=1 with Line1="},
         {"revision-number", WARNING, QT_TR_NOOP("RevisionNumber is not the default value of 0x1018:03"),
-         QT_TR_NOOP(
-             "A tool that looks a device up by its identity finds another revision. State the same at both places."),
-         nullptr, "RevisionNumber=1.2", "RevisionNumber=0x00010002"},
+         QT_TR_NOOP("Tools that go by the identity find another revision. State the same at both places."), nullptr,
+         "RevisionNumber=1.2", "RevisionNumber=0x00010002"},
         {"commissioning", WARNING,
          QT_TR_NOOP(
              "The commissioning has another name, a NodeID not from 1 to 127, or a bit rate that is not supported"),
