@@ -91,8 +91,8 @@ bool CEdsReader::read(const QString& text, CXddRemark& failure)
     leaveSections();
     readFileInfo();
     mXdd.begin(TAG_PROFILE_CONTAINER, 1);
-    mXdd.attribute(XMLNS, VAL_NAMESPACE);
-    mXdd.attribute(XMLNS_XSI, VAL_SCHEMA_INSTANCE);
+    mXdd.declaration(XMLNS, VAL_NAMESPACE);
+    mXdd.declaration(XMLNS_XSI, VAL_SCHEMA_INSTANCE);
     mXdd.attribute(XSI_SCHEMA_LOCATION, VAL_NAMESPACE + QLatin1Char(' ') + VAL_SCHEMA);
     writeDeviceProfile();
     writeNetworkProfile();

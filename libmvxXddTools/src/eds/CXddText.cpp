@@ -35,13 +35,18 @@ void CXddText::begin(QLatin1String element, int line)
 void CXddText::attribute(QLatin1String name, const QString& value, int line)
 {
     if (!value.isNull()) {
-        mText += QLatin1Char(' ');
-        mText += name;
-        mText += QLatin1String("=\"");
-        mText += escapedXml(allowedInXml(value));
-        mText += QLatin1Char('"');
+        declaration(name, value);
         mAttributeLines.push_back(line);
     }
+}
+
+void CXddText::declaration(QLatin1String name, const QString& value)
+{
+    mText += QLatin1Char(' ');
+    mText += name;
+    mText += QLatin1String("=\"");
+    mText += escapedXml(allowedInXml(value));
+    mText += QLatin1Char('"');
 }
 
 void CXddText::attribute(QLatin1String name, QLatin1String value, int line)

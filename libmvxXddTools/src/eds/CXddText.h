@@ -17,6 +17,8 @@ public:
      * text. */
     void attribute(QLatin1String name, const QString& value, int line = 0);
     void attribute(QLatin1String name, QLatin1String value, int line = 0);
+    /** A declaration of a namespace, which a tree has as no attribute. */
+    void declaration(QLatin1String name, const QString& value);
     /** A number with at least so many hexadecimal digits. */
     void hexadecimal(QLatin1String name, unsigned int number, int digits);
     /** Ends the innermost elements. */
