@@ -48,7 +48,7 @@ if(MVX_CATALOGUES)
         COMPONENT runtime)
 endif()
 
-set(MVX_TOOLS xdd2dbc xdd2eds xdd2html xddcheck xddinfo xddnormalize)
+set(MVX_TOOLS xdd2dbc xdd2eds xdd2html xddcheck xdddiff xddinfo xddnormalize)
 if(MVX_BUILD_TOOLS AND MVX_INSTALL_TOOLS)
     install(TARGETS ${MVX_TOOLS}
         RUNTIME

@@ -74,7 +74,7 @@ xddinfo shows the identity of a device, its bit rates, its PDOs and its object
 dictionary from a description (XDD, XDC, EDS, DCF), as a table or as JSON.
 
 xddcheck says what is wrong with descriptions, xddnormalize puts them right,
-xdd2eds writes them as EDS or DCF, xdd2dbc writes what a network of devices
+xdddiff says what changed between two and whom it breaks, xdd2eds writes them as EDS or DCF, xdd2dbc writes what a network of devices
 sends as a DBC, and xdd2html writes a page for a browser.")
 
 set(CPACK_DEBIAN_DOC_PACKAGE_NAME libmvxiso15745xml-doc)

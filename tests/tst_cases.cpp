@@ -1,6 +1,7 @@
 #include "Description.h"
 
 #include <CXddChecker.h>
+#include <CXddComparison.h>
 #include <CXddDbcWriter.h>
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
@@ -28,7 +29,8 @@
  * says "replace: TEXT", lines with "+" alone take the place of that text.
  *
  * The outcome is what differs from that of the unchanged description, in order. Numbers of lines that only move are no
- * difference. Started with MVX_RENEW=1, the program writes the outcomes into the files instead of comparing them.
+ * difference. Of "what: diff" it is what changed from the unchanged description. Started with MVX_RENEW=1, the program
+ * writes the outcomes into the files instead of comparing them.
  */
 class TestCases : public QObject
 {
@@ -508,6 +510,23 @@ QStringList paged(const QByteArray& text)
     return lines;
 }
 
+// What changed from the base of a case to its text.
+QStringList changesOf(const QByteArray& base, const QByteArray& text)
+{
+    QStringList lines;
+    for (const CXddChange& change :
+         CXddComparison::compare(CXddDocument::open(base), CXddDocument::open(text)).mChanges) {
+        lines << QStringLiteral("%1%2: %3: %4 [%5] %6")
+                     .arg(
+                         QLatin1String(change.mIsOld ? "old " : ""), QString::number(change.mLine),
+                         CXddChange::gradeAsStr(change.mSeverity), change.text(), change.mRule,
+                         CXddChange::concernsAsStr(change.mConcerns).join(QLatin1Char(' ')));
+    }
+    return lines;
+}
+
+const QString DIFF = QStringLiteral("diff");
+
 using Kinds = QMap<QString, std::function<QStringList(const QByteArray&)>>;
 const Kinds& kinds()
 {
@@ -517,7 +536,7 @@ const Kinds& kinds()
         {QStringLiteral("check"), checked},        {QStringLiteral("eds"), converted},
         {QStringLiteral("load-eds"), loadedEds},   {QStringLiteral("dbc"), dbc},
         {QStringLiteral("conform"), conformed},    {QStringLiteral("model"), modelled},
-        {QStringLiteral("page"), paged},
+        {QStringLiteral("page"), paged},           {DIFF, {}},
     };
     return kinds;
 }
@@ -533,6 +552,9 @@ QStringList outcome(const SCaseFile& file, const SCase& row, QStringList& faults
     }
     if (!faults.isEmpty()) {
         return {};
+    }
+    if (file.what == DIFF) {
+        return changesOf(base, text);
     }
     const auto outcomeOf = kinds().value(file.what);
     QStringList before = outcomeOf(base);
@@ -705,6 +727,12 @@ void TestCases::manualPages()
                       .arg(rule.mId, CXddRemark::severityAsStr(rule.mSeverity), rule.mSummary, rule.mReason);
     }
     comparePage(QStringLiteral("xddcheck"), checks);
+    QStringList differences;
+    for (const CXddRule& rule : CXddComparison::rules()) {
+        differences << QStringLiteral(".TP\n.BR %1 \" (%2)\"\n%3.\n%4")
+                           .arg(rule.mId, CXddChange::gradeAsStr(rule.mSeverity), rule.mSummary, rule.mReason);
+    }
+    comparePage(QStringLiteral("xdddiff"), differences);
 }
 
 QTEST_GUILESS_MAIN(TestCases)

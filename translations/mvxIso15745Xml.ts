@@ -2226,6 +2226,500 @@
         <source>TransportLayers, PhysicalLayer, baudRate or every supportedBaudRate is missing: 250 Kbps, or the default rate as the supported one</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>not stated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is gone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is gone, probably now %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is new: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is new: %1, probably before %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An object or sub-object is gone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Access to it is aborted with 06020000 or 06090011. Keep it, or say where its value is now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An object or sub-object is new</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing has to be done.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An object with sub-objects has become one without, or the other way round</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sub-index 0 means something else. Give the new object another index.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A number has become longer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Downloads of the old length are refused, uploads have another one. Give the new value another index.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A number has become shorter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A value has become one of another kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The same bytes mean something else. Give the new value another index.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An entry can no longer be read, or no longer be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Access is aborted with 06010001 or 06010002. Keep the access.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An entry can be read or written, too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A value that can be read has become constant, or no longer is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools that keep constant values have to read it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The highest sub-index (sub-index 0) is another</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Programs that read all elements read more or fewer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The object flags are others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools leave the entry out at download or scan, or no longer do.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The limits of an entry that can be written exclude values that they allowed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values that are stored for the device are refused with 06090031 or 06090032. Check what is stored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Limits allow more values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Limits of an entry that cannot be written, or of one that is no plain number, are others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools that scale by limits show the value otherwise.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An entry that can be written no longer allows a value that it listed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writing that value is refused. Check what is stored for the device.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list of allowed values is another, and excludes none that can be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Programs may meet a value that they do not know.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit, multiplier or offset of a value are others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The same number means another quantity. Give the new value another index.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A default value is another, is stated now, or no longer is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A device without a configuration behaves differently. Check what relies on the default.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A configured value is another</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device is the same. Download the configuration again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An entry can no longer be mapped, or not in one direction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Masters that map it are refused. Keep the mapping.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An entry can be mapped, or in one direction more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What an active PDO carries has another order, length or place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Others read wrong values, or the device refuses shorter frames (EMCY 0x8210). Keep the mapping, and add behind it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An active TPDO carries more behind what it carried</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Consumers that check the length have to accept the longer frame.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An active PDO has another CAN-ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Others wait for a frame that does not come. Keep the COB-ID.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PDO was active and is switched off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Others wait for a frame that does not come. Switch it on, or tell the master to.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PDO was switched off and is active</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check that its CAN-ID is free in the network.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An active PDO is sent by another cause: SYNC, remote request or event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It comes at another time, or never. Keep the transmission type.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transmission type within one cause, inhibit time, event timer, SYNC start or RTR bit of an active PDO are others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the load of the bus and the deadlines of consumers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Something changed in a PDO that is switched off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Masters that switch it on have to look at it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The COB-ID of SYNC (0x1005), TIME (0x1012), EMCY (0x1014) or an SDO server is another</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The heartbeat (0x1017) is switched off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Consumers report the node as lost. Keep a time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device type (0x1000) is another</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Masters compare it at boot-up (0x1F84). A device of another type has a description of its own.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vendor-ID or product code is another</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Masters compare it at boot-up (0x1F85, 0x1F86), tools look descriptions up by it. Another product has a description of its own.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A bit rate is no longer supported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Networks with that rate cannot take the device.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The default bit rate is another</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A new device disturbs the bus until its rate is set.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A bit rate more is supported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device can do less: a feature, a dummy type or PDOs are gone, or the granularity is coarser</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Configurations that use it are refused.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device can do more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Node-ID, bit rate, names or network number of a configured device are others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device is the same. Configure it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The revision number (0x1018:03) is another</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Masters that compare it (0x1F87) need the new one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Something breaks, but no revision or version is higher than it was</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Masters and tools tell versions apart by it. Raise the revision number (0x1018:03) or the version of the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name of an entry is another</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Generated code may use it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Labels, descriptions, denotation, or names of vendor and product are others, or a unit is first stated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name, author, date or version of the file are others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%3 %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%3 &quot;%1&quot; -&gt; &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no longer supports %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>supports %1, too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>default bit rate %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>can no longer map the dummy %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>can map the dummy %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>object code %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>data type %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>access %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDO mapping %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>limits %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>default value %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>actual value %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>object flags %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name &quot;%1&quot; -&gt; &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>denotation &quot;%1&quot; -&gt; &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>label &quot;%1&quot; -&gt; &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>description &quot;%1&quot; -&gt; &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unit %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>allowed values %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what allowed values mean &quot;%1&quot; -&gt; &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%3: inhibit time %1 -&gt; %2 microseconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%3: event timer %1 -&gt; %2 milliseconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%3: SYNC start value %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%3 is switched off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%3 is switched on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%3: CAN-ID %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%3: allows remote requests %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%3: transmission type %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: is a multiplexed PDO, or no longer is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>, and %n more field(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2 moves from bits %3 to %4%5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 is no longer in bits %3%4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 is new in bits %3%4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the revision is not raised: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>commissioning: %1 &quot;%2&quot; -&gt; &quot;%3&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>file: %1 &quot;%2&quot; -&gt; &quot;%3&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>value in force %1 -&gt; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tools</name>
@@ -2326,6 +2820,86 @@
         <translation type="unfinished">
             <numerusform></numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: This is no baseline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print text, json (one object per line) or sarif (2.1.0).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apply these rules only; * stands for any characters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do not apply rules.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report what a rule finds as %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report only what is not in the baseline BASE.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write what is found to the baseline BASE instead of reporting it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the settings of INI, not those of the nearest %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take no settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colour severities; auto does so on a terminal, unless NO_COLOR is set.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print everything separately.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print the rules as they are in force, why they matter and what to do.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print what a rule is about, with an example.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not one of: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only one of --baseline and --write-baseline is allowed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is none of: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a rule.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a section, a key with &quot;=&quot; nor a comment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a setting: these are %2.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2502,39 +3076,7 @@
         </translation>
     </message>
     <message>
-        <source>Print the findings as text, as json (one object per line) or as sarif (2.1.0).</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Do not apply rules.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Treat every warning as an error.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Print every finding separately.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Do not print totals.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a format.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a rule.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: This is no baseline.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a setting: these are %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
@@ -2568,55 +3110,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Apply these rules only; * stands for any characters.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Report the findings of a rule as error, warning or note.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Report only what is not in the baseline BASE.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Write what is found to the baseline BASE instead of reporting it.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Take the settings of INI, not those of the nearest .xddcheck.ini.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Take no settings.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Colour severities; auto does so on a terminal, unless NO_COLOR is set.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Put right first, in the files, what has one right writing.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Print the rules as they are in force, why they matter and what to do.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Print what a rule is about, with an example.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no severity: these are error, warning and note.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not one of: %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Only one of --baseline and --write-baseline is allowed.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2624,7 +3118,122 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is neither a section, a key with &quot;=&quot; nor a comment.</source>
+        <source>Do not print totals.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>xdddiff</name>
+    <message>
+        <source>old:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>, %n entries</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the description is gone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the description is new</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--git takes the arguments of git.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two files are compared: OLD and NEW.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only one of them can be standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Says what changed between two CANopen device descriptions, and whom it breaks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The earlier and the later description; - is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report only what concerns sdo, pdo, configuration or people.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End with 1 for compatible or even editorial changes, too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End with 0 for breaking changes where the revision was raised.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the arguments of an external diff of git; end with 0.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: This is the same file twice.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SDO access</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDO receivers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>stored configuration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what people rely on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) break %1</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n compatible</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n editorial</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>revision raised</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>revision not raised</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print only the verdict.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -2234,6 +2234,501 @@
         <source>TransportLayers, PhysicalLayer, baudRate or every supportedBaudRate is missing: 250 Kbps, or the default rate as the supported one</source>
         <translation>TransportLayers, PhysicalLayer, baudRate oder jedes supportedBaudRate fehlt: 250 Kbps oder die Vorgaberate als die unterstützte</translation>
     </message>
+    <message>
+        <source>not stated</source>
+        <translation>nicht angegeben</translation>
+    </message>
+    <message>
+        <source>is gone</source>
+        <translation>ist entfallen</translation>
+    </message>
+    <message>
+        <source>is gone, probably now %1</source>
+        <translation>ist entfallen, vermutlich jetzt %1</translation>
+    </message>
+    <message>
+        <source>is new: %1</source>
+        <translation>ist neu: %1</translation>
+    </message>
+    <message>
+        <source>is new: %1, probably before %2</source>
+        <translation>ist neu: %1, vermutlich vorher %2</translation>
+    </message>
+    <message>
+        <source>An object or sub-object is gone</source>
+        <translation>Ein Objekt oder Subobjekt ist entfallen</translation>
+    </message>
+    <message>
+        <source>Access to it is aborted with 06020000 or 06090011. Keep it, or say where its value is now.</source>
+        <translation>Zugriffe darauf werden mit 06020000 oder 06090011 abgebrochen. Behalten oder sagen, wo der Wert jetzt steht.</translation>
+    </message>
+    <message>
+        <source>An object or sub-object is new</source>
+        <translation>Ein Objekt oder Subobjekt ist neu</translation>
+    </message>
+    <message>
+        <source>Nothing has to be done.</source>
+        <translation>Es ist nichts zu tun.</translation>
+    </message>
+    <message>
+        <source>An object with sub-objects has become one without, or the other way round</source>
+        <translation>Ein Objekt mit Subobjekten ist zu einem ohne geworden oder umgekehrt</translation>
+    </message>
+    <message>
+        <source>Sub-index 0 means something else. Give the new object another index.</source>
+        <translation>Subindex 0 bedeutet etwas anderes. Dem neuen Objekt einen anderen Index geben.</translation>
+    </message>
+    <message>
+        <source>A number has become longer</source>
+        <translation>Eine Zahl ist länger geworden</translation>
+    </message>
+    <message>
+        <source>Downloads of the old length are refused, uploads have another one. Give the new value another index.</source>
+        <translation>Downloads der alten Länge werden abgelehnt, Uploads haben eine andere. Dem neuen Wert einen anderen Index geben.</translation>
+    </message>
+    <message>
+        <source>A number has become shorter</source>
+        <translation>Eine Zahl ist kürzer geworden</translation>
+    </message>
+    <message>
+        <source>A value has become one of another kind</source>
+        <translation>Ein Wert ist von anderer Art</translation>
+    </message>
+    <message>
+        <source>The same bytes mean something else. Give the new value another index.</source>
+        <translation>Dieselben Bytes bedeuten etwas anderes. Dem neuen Wert einen anderen Index geben.</translation>
+    </message>
+    <message>
+        <source>An entry can no longer be read, or no longer be written</source>
+        <translation>Ein Eintrag lässt sich nicht mehr lesen oder nicht mehr schreiben</translation>
+    </message>
+    <message>
+        <source>Access is aborted with 06010001 or 06010002. Keep the access.</source>
+        <translation>Zugriffe werden mit 06010001 oder 06010002 abgebrochen. Den Zugriff behalten.</translation>
+    </message>
+    <message>
+        <source>An entry can be read or written, too</source>
+        <translation>Ein Eintrag lässt sich auch lesen oder schreiben</translation>
+    </message>
+    <message>
+        <source>A value that can be read has become constant, or no longer is</source>
+        <translation>Ein lesbarer Wert ist konstant geworden oder ist es nicht mehr</translation>
+    </message>
+    <message>
+        <source>Tools that keep constant values have to read it again.</source>
+        <translation>Werkzeuge, die sich konstante Werte merken, müssen ihn neu lesen.</translation>
+    </message>
+    <message>
+        <source>The highest sub-index (sub-index 0) is another</source>
+        <translation>Der höchste Subindex (Subindex 0) ist ein anderer</translation>
+    </message>
+    <message>
+        <source>Programs that read all elements read more or fewer.</source>
+        <translation>Programme, die alle Elemente lesen, lesen mehr oder weniger.</translation>
+    </message>
+    <message>
+        <source>The object flags are others</source>
+        <translation>Die Objekt-Flags sind andere</translation>
+    </message>
+    <message>
+        <source>Tools leave the entry out at download or scan, or no longer do.</source>
+        <translation>Werkzeuge lassen den Eintrag beim Download oder Scan aus oder nicht mehr.</translation>
+    </message>
+    <message>
+        <source>The limits of an entry that can be written exclude values that they allowed</source>
+        <translation>Die Grenzen eines schreibbaren Eintrags schließen Werte aus, die sie erlaubten</translation>
+    </message>
+    <message>
+        <source>Values that are stored for the device are refused with 06090031 or 06090032. Check what is stored.</source>
+        <translation>Gespeicherte Werte für das Gerät werden mit 06090031 oder 06090032 abgelehnt. Prüfen, was gespeichert ist.</translation>
+    </message>
+    <message>
+        <source>Limits allow more values</source>
+        <translation>Grenzen erlauben mehr Werte</translation>
+    </message>
+    <message>
+        <source>Limits of an entry that cannot be written, or of one that is no plain number, are others</source>
+        <translation>Grenzen eines nicht schreibbaren Eintrags oder eines, der keine einfache Zahl ist, sind andere</translation>
+    </message>
+    <message>
+        <source>Tools that scale by limits show the value otherwise.</source>
+        <translation>Werkzeuge, die nach Grenzen skalieren, zeigen den Wert anders.</translation>
+    </message>
+    <message>
+        <source>An entry that can be written no longer allows a value that it listed</source>
+        <translation>Ein schreibbarer Eintrag erlaubt einen Wert nicht mehr, den er aufführte</translation>
+    </message>
+    <message>
+        <source>Writing that value is refused. Check what is stored for the device.</source>
+        <translation>Das Schreiben dieses Werts wird abgelehnt. Prüfen, was für das Gerät gespeichert ist.</translation>
+    </message>
+    <message>
+        <source>The list of allowed values is another, and excludes none that can be written</source>
+        <translation>Die Liste der erlaubten Werte ist eine andere und schließt keinen schreibbaren aus</translation>
+    </message>
+    <message>
+        <source>Programs may meet a value that they do not know.</source>
+        <translation>Programme können einem Wert begegnen, den sie nicht kennen.</translation>
+    </message>
+    <message>
+        <source>Unit, multiplier or offset of a value are others</source>
+        <translation>Einheit, Multiplikator oder Offset eines Werts sind andere</translation>
+    </message>
+    <message>
+        <source>The same number means another quantity. Give the new value another index.</source>
+        <translation>Dieselbe Zahl bedeutet eine andere Größe. Dem neuen Wert einen anderen Index geben.</translation>
+    </message>
+    <message>
+        <source>A default value is another, is stated now, or no longer is</source>
+        <translation>Ein Vorgabewert ist ein anderer, ist jetzt angegeben oder nicht mehr</translation>
+    </message>
+    <message>
+        <source>A device without a configuration behaves differently. Check what relies on the default.</source>
+        <translation>Ein Gerät ohne Konfiguration verhält sich anders. Prüfen, was sich auf die Vorgabe verlässt.</translation>
+    </message>
+    <message>
+        <source>A configured value is another</source>
+        <translation>Ein konfigurierter Wert ist ein anderer</translation>
+    </message>
+    <message>
+        <source>The device is the same. Download the configuration again.</source>
+        <translation>Das Gerät ist dasselbe. Die Konfiguration neu laden.</translation>
+    </message>
+    <message>
+        <source>An entry can no longer be mapped, or not in one direction</source>
+        <translation>Ein Eintrag lässt sich nicht mehr abbilden oder nicht mehr in einer Richtung</translation>
+    </message>
+    <message>
+        <source>Masters that map it are refused. Keep the mapping.</source>
+        <translation>Master, die ihn abbilden, werden abgelehnt. Das Mapping behalten.</translation>
+    </message>
+    <message>
+        <source>An entry can be mapped, or in one direction more</source>
+        <translation>Ein Eintrag lässt sich abbilden oder in einer Richtung mehr</translation>
+    </message>
+    <message>
+        <source>What an active PDO carries has another order, length or place</source>
+        <translation>Was ein aktiver PDO trägt, hat eine andere Reihenfolge, Länge oder Lage</translation>
+    </message>
+    <message>
+        <source>Others read wrong values, or the device refuses shorter frames (EMCY 0x8210). Keep the mapping, and add behind it.</source>
+        <translation>Andere lesen falsche Werte, oder das Gerät lehnt kürzere Frames ab (EMCY 0x8210). Das Mapping behalten und dahinter ergänzen.</translation>
+    </message>
+    <message>
+        <source>An active TPDO carries more behind what it carried</source>
+        <translation>Ein aktiver TPDO trägt mehr hinter dem, was er trug</translation>
+    </message>
+    <message>
+        <source>Consumers that check the length have to accept the longer frame.</source>
+        <translation>Empfänger, die die Länge prüfen, müssen den längeren Frame annehmen.</translation>
+    </message>
+    <message>
+        <source>An active PDO has another CAN-ID</source>
+        <translation>Ein aktiver PDO hat eine andere CAN-ID</translation>
+    </message>
+    <message>
+        <source>Others wait for a frame that does not come. Keep the COB-ID.</source>
+        <translation>Andere warten auf einen Frame, der nicht kommt. Die COB-ID behalten.</translation>
+    </message>
+    <message>
+        <source>A PDO was active and is switched off</source>
+        <translation>Ein PDO war aktiv und ist abgeschaltet</translation>
+    </message>
+    <message>
+        <source>Others wait for a frame that does not come. Switch it on, or tell the master to.</source>
+        <translation>Andere warten auf einen Frame, der nicht kommt. Einschalten oder vom Master einschalten lassen.</translation>
+    </message>
+    <message>
+        <source>A PDO was switched off and is active</source>
+        <translation>Ein PDO war abgeschaltet und ist aktiv</translation>
+    </message>
+    <message>
+        <source>Check that its CAN-ID is free in the network.</source>
+        <translation>Prüfen, ob seine CAN-ID im Netzwerk frei ist.</translation>
+    </message>
+    <message>
+        <source>An active PDO is sent by another cause: SYNC, remote request or event</source>
+        <translation>Ein aktiver PDO hat einen anderen Auslöser: SYNC, Remote-Anforderung oder Ereignis</translation>
+    </message>
+    <message>
+        <source>It comes at another time, or never. Keep the transmission type.</source>
+        <translation>Er kommt zu anderer Zeit oder nie. Den Übertragungstyp behalten.</translation>
+    </message>
+    <message>
+        <source>Transmission type within one cause, inhibit time, event timer, SYNC start or RTR bit of an active PDO are others</source>
+        <translation>Übertragungstyp bei gleichem Auslöser, Sperrzeit, Ereigniszeit, SYNC-Startwert oder RTR-Bit eines aktiven PDOs sind andere</translation>
+    </message>
+    <message>
+        <source>Check the load of the bus and the deadlines of consumers.</source>
+        <translation>Buslast und Fristen der Empfänger prüfen.</translation>
+    </message>
+    <message>
+        <source>Something changed in a PDO that is switched off</source>
+        <translation>In einem abgeschalteten PDO hat sich etwas geändert</translation>
+    </message>
+    <message>
+        <source>Masters that switch it on have to look at it again.</source>
+        <translation>Master, die ihn einschalten, müssen ihn neu ansehen.</translation>
+    </message>
+    <message>
+        <source>The COB-ID of SYNC (0x1005), TIME (0x1012), EMCY (0x1014) or an SDO server is another</source>
+        <translation>Die COB-ID von SYNC (0x1005), TIME (0x1012), EMCY (0x1014) oder einem SDO-Server ist eine andere</translation>
+    </message>
+    <message>
+        <source>The heartbeat (0x1017) is switched off</source>
+        <translation>Der Heartbeat (0x1017) ist abgeschaltet</translation>
+    </message>
+    <message>
+        <source>Consumers report the node as lost. Keep a time.</source>
+        <translation>Empfänger melden den Knoten als ausgefallen. Eine Zeit behalten.</translation>
+    </message>
+    <message>
+        <source>The device type (0x1000) is another</source>
+        <translation>Der Gerätetyp (0x1000) ist ein anderer</translation>
+    </message>
+    <message>
+        <source>Masters compare it at boot-up (0x1F84). A device of another type has a description of its own.</source>
+        <translation>Master vergleichen ihn beim Hochlauf (0x1F84). Ein Gerät anderen Typs hat eine eigene Beschreibung.</translation>
+    </message>
+    <message>
+        <source>Vendor-ID or product code is another</source>
+        <translation>Vendor-ID oder Produktcode ist ein anderer</translation>
+    </message>
+    <message>
+        <source>Masters compare it at boot-up (0x1F85, 0x1F86), tools look descriptions up by it. Another product has a description of its own.</source>
+        <translation>Master vergleichen sie beim Hochlauf (0x1F85, 0x1F86), Werkzeuge finden Beschreibungen danach. Ein anderes Produkt hat eine eigene Beschreibung.</translation>
+    </message>
+    <message>
+        <source>A bit rate is no longer supported</source>
+        <translation>Eine Bitrate wird nicht mehr unterstützt</translation>
+    </message>
+    <message>
+        <source>Networks with that rate cannot take the device.</source>
+        <translation>Netzwerke mit dieser Rate können das Gerät nicht aufnehmen.</translation>
+    </message>
+    <message>
+        <source>The default bit rate is another</source>
+        <translation>Die Vorgabe der Bitrate ist eine andere</translation>
+    </message>
+    <message>
+        <source>A new device disturbs the bus until its rate is set.</source>
+        <translation>Ein neues Gerät stört den Bus, bis seine Rate eingestellt ist.</translation>
+    </message>
+    <message>
+        <source>A bit rate more is supported</source>
+        <translation>Eine Bitrate mehr wird unterstützt</translation>
+    </message>
+    <message>
+        <source>The device can do less: a feature, a dummy type or PDOs are gone, or the granularity is coarser</source>
+        <translation>Das Gerät kann weniger: Eine Fähigkeit, ein Dummy-Typ oder PDOs sind entfallen, oder die Granularität ist gröber</translation>
+    </message>
+    <message>
+        <source>Configurations that use it are refused.</source>
+        <translation>Konfigurationen, die das nutzen, werden abgelehnt.</translation>
+    </message>
+    <message>
+        <source>The device can do more</source>
+        <translation>Das Gerät kann mehr</translation>
+    </message>
+    <message>
+        <source>Node-ID, bit rate, names or network number of a configured device are others</source>
+        <translation>Knotennummer, Bitrate, Namen oder Netzwerknummer eines konfigurierten Geräts sind andere</translation>
+    </message>
+    <message>
+        <source>The device is the same. Configure it again.</source>
+        <translation>Das Gerät ist dasselbe. Neu konfigurieren.</translation>
+    </message>
+    <message>
+        <source>The revision number (0x1018:03) is another</source>
+        <translation>Die Revisionsnummer (0x1018:03) ist eine andere</translation>
+    </message>
+    <message>
+        <source>Masters that compare it (0x1F87) need the new one.</source>
+        <translation>Master, die sie vergleichen (0x1F87), brauchen die neue.</translation>
+    </message>
+    <message>
+        <source>Something breaks, but no revision or version is higher than it was</source>
+        <translation>Etwas bricht, doch keine Revision oder Version ist höher als vorher</translation>
+    </message>
+    <message>
+        <source>Masters and tools tell versions apart by it. Raise the revision number (0x1018:03) or the version of the file.</source>
+        <translation>Master und Werkzeuge unterscheiden Versionen danach. Die Revisionsnummer (0x1018:03) oder die Version der Datei erhöhen.</translation>
+    </message>
+    <message>
+        <source>The name of an entry is another</source>
+        <translation>Der Name eines Eintrags ist ein anderer</translation>
+    </message>
+    <message>
+        <source>Generated code may use it.</source>
+        <translation>Generierter Code kann ihn benutzen.</translation>
+    </message>
+    <message>
+        <source>Labels, descriptions, denotation, or names of vendor and product are others, or a unit is first stated</source>
+        <translation>Labels, Beschreibungen, Denotation oder Namen von Hersteller und Produkt sind andere, oder eine Einheit ist erstmals angegeben</translation>
+    </message>
+    <message>
+        <source>Name, author, date or version of the file are others</source>
+        <translation>Name, Autor, Datum oder Version der Datei sind andere</translation>
+    </message>
+    <message>
+        <source>%3 %1 -&gt; %2</source>
+        <translation>%3 %1 -&gt; %2</translation>
+    </message>
+    <message>
+        <source>%3 &quot;%1&quot; -&gt; &quot;%2&quot;</source>
+        <translation>%3 „%1“ -&gt; „%2“</translation>
+    </message>
+    <message>
+        <source>no longer supports %1</source>
+        <translation>unterstützt %1 nicht mehr</translation>
+    </message>
+    <message>
+        <source>supports %1, too</source>
+        <translation>unterstützt auch %1</translation>
+    </message>
+    <message>
+        <source>default bit rate %1 -&gt; %2</source>
+        <translation>Vorgabe der Bitrate %1 -&gt; %2</translation>
+    </message>
+    <message>
+        <source>can no longer map the dummy %1</source>
+        <translation>kann den Dummy %1 nicht mehr abbilden</translation>
+    </message>
+    <message>
+        <source>can map the dummy %1</source>
+        <translation>kann den Dummy %1 abbilden</translation>
+    </message>
+    <message>
+        <source>object code %1 -&gt; %2</source>
+        <translation>Objektcode %1 -&gt; %2</translation>
+    </message>
+    <message>
+        <source>data type %1 -&gt; %2</source>
+        <translation>Datentyp %1 -&gt; %2</translation>
+    </message>
+    <message>
+        <source>access %1 -&gt; %2</source>
+        <translation>Zugriff %1 -&gt; %2</translation>
+    </message>
+    <message>
+        <source>PDO mapping %1 -&gt; %2</source>
+        <translation>PDO-Mapping %1 -&gt; %2</translation>
+    </message>
+    <message>
+        <source>limits %1 -&gt; %2</source>
+        <translation>Grenzen %1 -&gt; %2</translation>
+    </message>
+    <message>
+        <source>default value %1 -&gt; %2</source>
+        <translation>Vorgabewert %1 -&gt; %2</translation>
+    </message>
+    <message>
+        <source>actual value %1 -&gt; %2</source>
+        <translation>Istwert %1 -&gt; %2</translation>
+    </message>
+    <message>
+        <source>object flags %1 -&gt; %2</source>
+        <translation>Objekt-Flags %1 -&gt; %2</translation>
+    </message>
+    <message>
+        <source>name &quot;%1&quot; -&gt; &quot;%2&quot;</source>
+        <translation>Name „%1“ -&gt; „%2“</translation>
+    </message>
+    <message>
+        <source>denotation &quot;%1&quot; -&gt; &quot;%2&quot;</source>
+        <translation>Denotation „%1“ -&gt; „%2“</translation>
+    </message>
+    <message>
+        <source>label &quot;%1&quot; -&gt; &quot;%2&quot;</source>
+        <translation>Label „%1“ -&gt; „%2“</translation>
+    </message>
+    <message>
+        <source>description &quot;%1&quot; -&gt; &quot;%2&quot;</source>
+        <translation>Beschreibung „%1“ -&gt; „%2“</translation>
+    </message>
+    <message>
+        <source>unit %1 -&gt; %2</source>
+        <translation>Einheit %1 -&gt; %2</translation>
+    </message>
+    <message>
+        <source>allowed values %1 -&gt; %2</source>
+        <translation>erlaubte Werte %1 -&gt; %2</translation>
+    </message>
+    <message>
+        <source>what allowed values mean &quot;%1&quot; -&gt; &quot;%2&quot;</source>
+        <translation>Bedeutung erlaubter Werte „%1“ -&gt; „%2“</translation>
+    </message>
+    <message>
+        <source>%3: inhibit time %1 -&gt; %2 microseconds</source>
+        <translation>%3: Sperrzeit %1 -&gt; %2 Mikrosekunden</translation>
+    </message>
+    <message>
+        <source>%3: event timer %1 -&gt; %2 milliseconds</source>
+        <translation>%3: Ereigniszeit %1 -&gt; %2 Millisekunden</translation>
+    </message>
+    <message>
+        <source>%3: SYNC start value %1 -&gt; %2</source>
+        <translation>%3: SYNC-Startwert %1 -&gt; %2</translation>
+    </message>
+    <message>
+        <source>%3 is switched off</source>
+        <translation>%3 ist abgeschaltet</translation>
+    </message>
+    <message>
+        <source>%3 is switched on</source>
+        <translation>%3 ist eingeschaltet</translation>
+    </message>
+    <message>
+        <source>%3: CAN-ID %1 -&gt; %2</source>
+        <translation>%3: CAN-ID %1 -&gt; %2</translation>
+    </message>
+    <message>
+        <source>%3: allows remote requests %1 -&gt; %2</source>
+        <translation>%3: erlaubt Remote-Anforderungen %1 -&gt; %2</translation>
+    </message>
+    <message>
+        <source>%3: transmission type %1 -&gt; %2</source>
+        <translation>%3: Übertragungstyp %1 -&gt; %2</translation>
+    </message>
+    <message>
+        <source>%1: is a multiplexed PDO, or no longer is</source>
+        <translation>%1: ist ein Multiplex-PDO oder ist es nicht mehr</translation>
+    </message>
+    <message numerus="yes">
+        <source>, and %n more field(s)</source>
+        <translation>
+            <numerusform>, und ein weiteres Feld</numerusform>
+            <numerusform>, und %n weitere Felder</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2 moves from bits %3 to %4%5</source>
+        <translation>%1: %2 wandert von Bits %3 nach %4%5</translation>
+    </message>
+    <message>
+        <source>%1: %2 is no longer in bits %3%4</source>
+        <translation>%1: %2 ist nicht mehr in Bits %3%4</translation>
+    </message>
+    <message>
+        <source>%1: %2 is new in bits %3%4</source>
+        <translation>%1: %2 ist neu in Bits %3%4</translation>
+    </message>
+    <message>
+        <source>the revision is not raised: %2</source>
+        <translation>die Revision ist nicht erhöht: %2</translation>
+    </message>
+    <message>
+        <source>commissioning: %1 &quot;%2&quot; -&gt; &quot;%3&quot;</source>
+        <translation>Inbetriebnahme: %1 „%2“ -&gt; „%3“</translation>
+    </message>
+    <message>
+        <source>file: %1 &quot;%2&quot; -&gt; &quot;%3&quot;</source>
+        <translation>Datei: %1 „%2“ -&gt; „%3“</translation>
+    </message>
+    <message>
+        <source>value in force %1 -&gt; %2</source>
+        <translation>geltender Wert %1 -&gt; %2</translation>
+    </message>
 </context>
 <context>
     <name>tools</name>
@@ -2337,6 +2832,86 @@
             <numerusform>%1, und %n weitere wie diese bis Zeile %2</numerusform>
             <numerusform>%1, und %n weitere wie diese bis Zeile %2</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1: This is no baseline.</source>
+        <translation>%1: Das ist kein Grundstand.</translation>
+    </message>
+    <message>
+        <source>Print text, json (one object per line) or sarif (2.1.0).</source>
+        <translation>Text, json (ein Objekt je Zeile) oder sarif (2.1.0) ausgeben.</translation>
+    </message>
+    <message>
+        <source>Apply these rules only; * stands for any characters.</source>
+        <translation>Nur diese Regeln anwenden; * steht für beliebige Zeichen.</translation>
+    </message>
+    <message>
+        <source>Do not apply rules.</source>
+        <translation>Regeln nicht anwenden.</translation>
+    </message>
+    <message>
+        <source>Report what a rule finds as %1.</source>
+        <translation>Was eine Regel findet, als %1 melden.</translation>
+    </message>
+    <message>
+        <source>Report only what is not in the baseline BASE.</source>
+        <translation>Nur melden, was nicht im Grundstand BASE steht.</translation>
+    </message>
+    <message>
+        <source>Write what is found to the baseline BASE instead of reporting it.</source>
+        <translation>Die Befunde in den Grundstand BASE schreiben, statt sie zu melden.</translation>
+    </message>
+    <message>
+        <source>Take the settings of INI, not those of the nearest %1.</source>
+        <translation>Die Einstellungen aus INI nehmen, nicht die aus der nächsten %1.</translation>
+    </message>
+    <message>
+        <source>Take no settings.</source>
+        <translation>Keine Einstellungen nehmen.</translation>
+    </message>
+    <message>
+        <source>Colour severities; auto does so on a terminal, unless NO_COLOR is set.</source>
+        <translation>Schweregrade färben; auto tut das auf einem Terminal, wenn NO_COLOR nicht gesetzt ist.</translation>
+    </message>
+    <message>
+        <source>Print everything separately.</source>
+        <translation>Alles einzeln ausgeben.</translation>
+    </message>
+    <message>
+        <source>Print the rules as they are in force, why they matter and what to do.</source>
+        <translation>Die Regeln ausgeben, wie sie gelten, warum sie wichtig sind und was zu tun ist.</translation>
+    </message>
+    <message>
+        <source>Print what a rule is about, with an example.</source>
+        <translation>Ausgeben, worum es bei einer Regel geht, mit einem Beispiel.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a format.</source>
+        <translation>&apos;%1&apos; ist kein Format.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not one of: %2.</source>
+        <translation>&apos;%1&apos; ist keines von: %2.</translation>
+    </message>
+    <message>
+        <source>Only one of --baseline and --write-baseline is allowed.</source>
+        <translation>Nur eines von --baseline und --write-baseline ist erlaubt.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is none of: %2.</source>
+        <translation>„%1“ ist keines von: %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a rule.</source>
+        <translation>&apos;%1&apos; ist keine Regel.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a section, a key with &quot;=&quot; nor a comment.</source>
+        <translation>„%1“ ist weder ein Abschnitt noch ein Schlüssel mit „=“ noch ein Kommentar.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a setting: these are %2.</source>
+        <translation>&apos;%1&apos; ist keine Einstellung: Das sind %2.</translation>
     </message>
 </context>
 <context>
@@ -2518,40 +3093,8 @@
         </translation>
     </message>
     <message>
-        <source>Print the findings as text, as json (one object per line) or as sarif (2.1.0).</source>
-        <translation>Die Befunde als text, als json (ein Objekt je Zeile) oder als sarif (2.1.0) ausgeben.</translation>
-    </message>
-    <message>
-        <source>Do not apply rules.</source>
-        <translation>Regeln nicht anwenden.</translation>
-    </message>
-    <message>
         <source>Treat every warning as an error.</source>
         <translation>Jede Warnung als Fehler behandeln.</translation>
-    </message>
-    <message>
-        <source>Print every finding separately.</source>
-        <translation>Jeden Befund einzeln ausgeben.</translation>
-    </message>
-    <message>
-        <source>Do not print totals.</source>
-        <translation>Keine Summen ausgeben.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a format.</source>
-        <translation>&apos;%1&apos; ist kein Format.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a rule.</source>
-        <translation>&apos;%1&apos; ist keine Regel.</translation>
-    </message>
-    <message>
-        <source>%1: This is no baseline.</source>
-        <translation>%1: Das ist kein Grundstand.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a setting: these are %2.</source>
-        <translation>&apos;%1&apos; ist keine Einstellung: Das sind %2.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n finding(s)</source>
@@ -2587,64 +3130,135 @@
         <translation>richtig:</translation>
     </message>
     <message>
-        <source>Apply these rules only; * stands for any characters.</source>
-        <translation>Nur diese Regeln anwenden; * steht für beliebige Zeichen.</translation>
-    </message>
-    <message>
-        <source>Report the findings of a rule as error, warning or note.</source>
-        <translation>Die Befunde einer Regel als error, warning oder note melden.</translation>
-    </message>
-    <message>
-        <source>Report only what is not in the baseline BASE.</source>
-        <translation>Nur melden, was nicht im Grundstand BASE steht.</translation>
-    </message>
-    <message>
-        <source>Write what is found to the baseline BASE instead of reporting it.</source>
-        <translation>Die Befunde in den Grundstand BASE schreiben, statt sie zu melden.</translation>
-    </message>
-    <message>
-        <source>Take the settings of INI, not those of the nearest .xddcheck.ini.</source>
-        <translation>Die Einstellungen aus INI nehmen, nicht die der nächsten .xddcheck.ini.</translation>
-    </message>
-    <message>
-        <source>Take no settings.</source>
-        <translation>Keine Einstellungen nehmen.</translation>
-    </message>
-    <message>
-        <source>Colour severities; auto does so on a terminal, unless NO_COLOR is set.</source>
-        <translation>Schweregrade färben; auto tut das auf einem Terminal, wenn NO_COLOR nicht gesetzt ist.</translation>
-    </message>
-    <message>
         <source>Put right first, in the files, what has one right writing.</source>
         <translation>Vorher in den Dateien berichtigen, was genau eine richtige Schreibweise hat.</translation>
-    </message>
-    <message>
-        <source>Print the rules as they are in force, why they matter and what to do.</source>
-        <translation>Die Regeln ausgeben, wie sie gelten, warum sie wichtig sind und was zu tun ist.</translation>
-    </message>
-    <message>
-        <source>Print what a rule is about, with an example.</source>
-        <translation>Ausgeben, worum es bei einer Regel geht, mit einem Beispiel.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no severity: these are error, warning and note.</source>
-        <translation>&apos;%1&apos; ist kein Schweregrad: Das sind error, warning und note.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not one of: %2.</source>
-        <translation>&apos;%1&apos; ist keines von: %2.</translation>
-    </message>
-    <message>
-        <source>Only one of --baseline and --write-baseline is allowed.</source>
-        <translation>Nur eines von --baseline und --write-baseline ist erlaubt.</translation>
     </message>
     <message>
         <source>A description, or a folder with descriptions; - is standard input.</source>
         <translation>Eine Beschreibung oder ein Ordner mit Beschreibungen; - ist die Standardeingabe.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is neither a section, a key with &quot;=&quot; nor a comment.</source>
-        <translation>„%1“ ist weder ein Abschnitt noch ein Schlüssel mit „=“ noch ein Kommentar.</translation>
+        <source>Do not print totals.</source>
+        <translation>Keine Summen ausgeben.</translation>
+    </message>
+</context>
+<context>
+    <name>xdddiff</name>
+    <message>
+        <source>old:</source>
+        <translation>alt:</translation>
+    </message>
+    <message>
+        <source>new:</source>
+        <translation>neu:</translation>
+    </message>
+    <message numerus="yes">
+        <source>, %n entries</source>
+        <translation>
+            <numerusform>, ein Eintrag</numerusform>
+            <numerusform>, %n Einträge</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the description is gone</source>
+        <translation>die Beschreibung ist entfallen</translation>
+    </message>
+    <message>
+        <source>the description is new</source>
+        <translation>die Beschreibung ist neu</translation>
+    </message>
+    <message>
+        <source>--git takes the arguments of git.</source>
+        <translation>--git nimmt die Argumente von git.</translation>
+    </message>
+    <message>
+        <source>Two files are compared: OLD and NEW.</source>
+        <translation>Verglichen werden zwei Dateien: OLD und NEW.</translation>
+    </message>
+    <message>
+        <source>Only one of them can be standard input.</source>
+        <translation>Nur eine davon kann die Standardeingabe sein.</translation>
+    </message>
+    <message>
+        <source>Says what changed between two CANopen device descriptions, and whom it breaks.</source>
+        <translation>Sagt, was sich zwischen zwei CANopen-Gerätebeschreibungen geändert hat und für wen etwas bricht.</translation>
+    </message>
+    <message>
+        <source>The earlier and the later description; - is standard input.</source>
+        <translation>Die frühere und die spätere Beschreibung; - ist die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>Report only what concerns sdo, pdo, configuration or people.</source>
+        <translation>Nur melden, was sdo, pdo, configuration oder people betrifft.</translation>
+    </message>
+    <message>
+        <source>End with 1 for compatible or even editorial changes, too.</source>
+        <translation>Auch bei verträglichen (compatible) oder sogar redaktionellen (editorial) Änderungen mit 1 enden.</translation>
+    </message>
+    <message>
+        <source>End with 0 for breaking changes where the revision was raised.</source>
+        <translation>Trotz brechender Änderungen mit 0 enden, wenn die Revision erhöht ist.</translation>
+    </message>
+    <message>
+        <source>Take the arguments of an external diff of git; end with 0.</source>
+        <translation>Die Argumente eines externen Diffs von git nehmen; mit 0 enden.</translation>
+    </message>
+    <message>
+        <source>%1: This is the same file twice.</source>
+        <translation>%1: Das ist zweimal dieselbe Datei.</translation>
+    </message>
+    <message>
+        <source>SDO access</source>
+        <translation>SDO-Zugriffe</translation>
+    </message>
+    <message>
+        <source>PDO receivers</source>
+        <translation>PDO-Empfänger</translation>
+    </message>
+    <message>
+        <source>stored configuration</source>
+        <translation>gespeicherte Konfiguration</translation>
+    </message>
+    <message>
+        <source>what people rely on</source>
+        <translation>worauf sich Menschen verlassen</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) break %1</source>
+        <translation>
+            <numerusform>eine Änderung bricht %1</numerusform>
+            <numerusform>%n Änderungen brechen %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n compatible</source>
+        <translation>
+            <numerusform>%n verträglich</numerusform>
+            <numerusform>%n verträglich</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n editorial</source>
+        <translation>
+            <numerusform>%n redaktionell</numerusform>
+            <numerusform>%n redaktionell</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>revision raised</source>
+        <translation>Revision erhöht</translation>
+    </message>
+    <message>
+        <source>revision not raised</source>
+        <translation>Revision nicht erhöht</translation>
+    </message>
+    <message>
+        <source>Print only the verdict.</source>
+        <translation>Nur das Urteil ausgeben.</translation>
     </message>
 </context>
 <context>

@@ -59,6 +59,13 @@
             <numerusform>%n PDOs with nothing mapped</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>, and %n more field(s)</source>
+        <translation>
+            <numerusform>, and %n more field</numerusform>
+            <numerusform>, and %n more fields</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tools</name>
@@ -143,6 +150,37 @@
         <translation>
             <numerusform>%n file: </numerusform>
             <numerusform>%n files: </numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>xdddiff</name>
+    <message numerus="yes">
+        <source>, %n entries</source>
+        <translation>
+            <numerusform>, %n entry</numerusform>
+            <numerusform>, %n entries</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) break %1</source>
+        <translation>
+            <numerusform>%n change breaks %1</numerusform>
+            <numerusform>%n changes break %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n compatible</source>
+        <translation>
+            <numerusform>%n compatible</numerusform>
+            <numerusform>%n compatible</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n editorial</source>
+        <translation>
+            <numerusform>%n editorial</numerusform>
+            <numerusform>%n editorial</numerusform>
         </translation>
     </message>
 </context>

@@ -18,11 +18,12 @@ public:
     /** What a remark says. */
     enum EKind : int
     {
-        KIND_FAILURE = 0, ///< The description cannot be opened or loaded
-        KIND_FINDING = 1, ///< Something is wrong with it
-        KIND_CHANGE = 2,  ///< Something was supplied or is written in another way
-        KIND_LEFT = 3,    ///< Something is unknown or ambiguous, and was left as it is or not taken
-        KIND_LOSS = 4     ///< What was written does not say something, or not all of it
+        KIND_FAILURE = 0,   ///< The description cannot be opened or loaded
+        KIND_FINDING = 1,   ///< Something is wrong with it
+        KIND_CHANGE = 2,    ///< Something was supplied or is written in another way
+        KIND_LEFT = 3,      ///< Something is unknown or ambiguous, and was left as it is or not taken
+        KIND_LOSS = 4,      ///< What was written does not say something, or not all of it
+        KIND_DIFFERENCE = 5 ///< Another description of the device says otherwise
     };
 
     /** How bad it is. */

@@ -56,7 +56,7 @@ QString CBaseline::read()
     const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
     const QJsonValue findings = document.object().value(FINDINGS);
     if (error.error != QJsonParseError::NoError || !findings.isArray()) {
-        return QCoreApplication::translate("xddcheck", "%1: This is no baseline.").arg(mFileName);
+        return QCoreApplication::translate("tools", "%1: This is no baseline.").arg(mFileName);
     }
     const QJsonArray array = findings.toArray();
     for (const auto& value : array) {
@@ -79,28 +79,6 @@ bool CBaseline::write() const
         separator = ",\n";
     }
     return writeFile(mFileName, text + "\n]}\n");
-}
-
-void CBaseline::add(const QString& description, const QList<CXddRemark>& findings)
-{
-    for (const CXddRemark& finding : findings) {
-        ++mFindings[keyOf(description, finding)];
-    }
-}
-
-QList<CXddRemark> CBaseline::unknown(const QString& description, const QList<CXddRemark>& findings)
-{
-    mLookedAt << pathOf(description);
-    QList<CXddRemark> unknown;
-    for (const CXddRemark& finding : findings) {
-        int& left = mFindings[keyOf(description, finding)];
-        if (left > 0) {
-            --left;
-        } else {
-            unknown << finding;
-        }
-    }
-    return unknown;
 }
 
 int CBaseline::size() const

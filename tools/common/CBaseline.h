@@ -1,5 +1,5 @@
-#ifndef XDDCHECK_CBASELINE_H
-#define XDDCHECK_CBASELINE_H
+#ifndef TOOLS_CBASELINE_H
+#define TOOLS_CBASELINE_H
 
 #include <CXddRemark.h>
 
@@ -24,9 +24,28 @@ public:
     bool write() const;
 
     /** Adds the findings of a description. */
-    void add(const QString& description, const QList<CXddRemark>& findings);
+    template <typename Remark> void add(const QString& description, const QList<Remark>& findings)
+    {
+        for (const Remark& finding : findings) {
+            ++mFindings[keyOf(description, finding)];
+        }
+    }
+
     /** The findings of a description that are not known. Each known one is recognised as often as it was added. */
-    QList<CXddRemark> unknown(const QString& description, const QList<CXddRemark>& findings);
+    template <typename Remark> QList<Remark> unknown(const QString& description, const QList<Remark>& findings)
+    {
+        mLookedAt << pathOf(description);
+        QList<Remark> unknown;
+        for (const Remark& finding : findings) {
+            int& left = mFindings[keyOf(description, finding)];
+            if (left > 0) {
+                --left;
+            } else {
+                unknown << finding;
+            }
+        }
+        return unknown;
+    }
 
     /** How many findings there are. */
     int size() const;

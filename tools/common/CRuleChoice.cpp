@@ -1,20 +1,18 @@
 #include "CRuleChoice.h"
 
-#include <CXddChecker.h>
-
 #include <algorithm>
 
-CRuleChoice::CRuleChoice()
-    : mRules(CXddChecker::rules())
+CRuleChoice::CRuleChoice(const SRules& rules)
+    : mRules(rules)
 {
-    for (const CXddRule& rule : qAsConst(mRules)) {
+    for (const CXddRule& rule : qAsConst(mRules.rules)) {
         mSeverities.insert(rule.mId, rule.mSeverity);
     }
 }
 
 bool CRuleChoice::isKnown(const QString& pattern) const
 {
-    return std::any_of(mRules.begin(), mRules.end(), [&pattern](const CXddRule& rule) {
+    return std::any_of(mRules.rules.begin(), mRules.rules.end(), [&pattern](const CXddRule& rule) {
         return CXddRule::isNamed(rule.mId, pattern);
     });
 }
@@ -22,7 +20,7 @@ bool CRuleChoice::isKnown(const QString& pattern) const
 void CRuleChoice::only(const QStringList& patterns)
 {
     mDisabled.clear();
-    for (const CXddRule& rule : qAsConst(mRules)) {
+    for (const CXddRule& rule : qAsConst(mRules.rules)) {
         const bool isNamed = std::any_of(patterns.begin(), patterns.end(), [&rule](const QString& pattern) {
             return CXddRule::isNamed(rule.mId, pattern);
         });
@@ -34,7 +32,7 @@ void CRuleChoice::only(const QStringList& patterns)
 
 void CRuleChoice::disable(const QString& pattern)
 {
-    for (const CXddRule& rule : qAsConst(mRules)) {
+    for (const CXddRule& rule : qAsConst(mRules.rules)) {
         if (CXddRule::isNamed(rule.mId, pattern)) {
             mDisabled << rule.mId;
         }
@@ -43,20 +41,14 @@ void CRuleChoice::disable(const QString& pattern)
 
 bool CRuleChoice::setSeverity(const QString& pattern, const QString& severity)
 {
-    for (const CXddRemark::ESeverity known :
-         {CXddRemark::SEVERITY_NOTE, CXddRemark::SEVERITY_WARNING, CXddRemark::SEVERITY_ERROR}) {
-        if (CXddRemark::severityAsStr(known) != severity) {
-            continue;
+    const int known = int(mRules.severities.indexOf(severity));
+    for (const CXddRule& rule : known < 0 ? QList<CXddRule>() : mRules.rules) {
+        if (CXddRule::isNamed(rule.mId, pattern)) {
+            mSeverities.insert(rule.mId, static_cast<CXddRemark::ESeverity>(known));
+            mDisabled.remove(rule.mId);
         }
-        for (const CXddRule& rule : qAsConst(mRules)) {
-            if (CXddRule::isNamed(rule.mId, pattern)) {
-                mSeverities.insert(rule.mId, known);
-                mDisabled.remove(rule.mId);
-            }
-        }
-        return true;
     }
-    return false;
+    return known >= 0;
 }
 
 void CRuleChoice::raiseWarnings()
@@ -69,12 +61,4 @@ void CRuleChoice::raiseWarnings()
 std::optional<CXddRemark::ESeverity> CRuleChoice::severity(const QString& rule) const
 {
     return mDisabled.contains(rule) ? std::nullopt : std::make_optional(mSeverities.value(rule));
-}
-
-QList<CXddRemark> CRuleChoice::chosen(QList<CXddRemark> findings) const
-{
-    for (CXddRemark& finding : findings) {
-        finding.mSeverity = mSeverities.value(finding.mRule);
-    }
-    return findings;
 }

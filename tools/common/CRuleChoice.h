@@ -1,5 +1,5 @@
-#ifndef XDDCHECK_CRULECHOICE_H
-#define XDDCHECK_CRULECHOICE_H
+#ifndef TOOLS_CRULECHOICE_H
+#define TOOLS_CRULECHOICE_H
 
 #include <CXddRule.h>
 
@@ -10,12 +10,21 @@
 
 #include <optional>
 
+/** The rules of a tool, and what it calls them. */
+struct SRules
+{
+    QList<CXddRule> rules;
+    QStringList severities; ///< The words for the values of CXddRemark::ESeverity
+    QString wrong;          ///< What stands in front of the example of what a rule finds
+    QString right;          ///< And in front of that of what it does not
+};
+
 /** Which rules are applied to a file, and how severe their findings are. What is said later holds. */
 class CRuleChoice
 {
 public:
     /** All rules as they are. */
-    CRuleChoice();
+    explicit CRuleChoice(const SRules& rules);
 
     /** True when a pattern names a rule. */
     bool isKnown(const QString& pattern) const;
@@ -24,8 +33,8 @@ public:
     void only(const QStringList& patterns);
     /** Does not apply the rules that a pattern names. */
     void disable(const QString& pattern);
-    /** Applies the rules that a pattern names, their findings with a severity: "error", "warning" or "note". Returns
-     * false for another word. */
+    /** Applies the rules that a pattern names, their findings with a severity, such as "warning". Returns false
+     * for a word that is none. */
     bool setSeverity(const QString& pattern, const QString& severity);
     /** Makes every warning an error. */
     void raiseWarnings();
@@ -36,14 +45,24 @@ public:
     /** The rules that are not applied. */
     QStringList disabled() const { return mDisabled.values(); }
 
-    /** What a check without the disabled rules found, with the severities that were chosen. */
-    QList<CXddRemark> chosen(QList<CXddRemark> findings) const;
+    /** What was found with rules that are applied, with the severities that were chosen. */
+    template <typename Remark> QList<Remark> chosen(const QList<Remark>& findings) const
+    {
+        QList<Remark> chosen;
+        for (Remark finding : findings) {
+            if (!mDisabled.contains(finding.mRule)) {
+                finding.mSeverity = mSeverities.value(finding.mRule);
+                chosen << finding;
+            }
+        }
+        return chosen;
+    }
 
-    /** All rules, as the checker has them. */
-    const QList<CXddRule>& rules() const { return mRules; }
+    /** All rules, as the tool has them. */
+    const SRules& rules() const { return mRules; }
 
 private:
-    QList<CXddRule> mRules;
+    SRules mRules;
     QHash<QString, CXddRemark::ESeverity> mSeverities;
     QSet<QString> mDisabled;
 };

@@ -3,13 +3,13 @@
 #include "CCommandLine.h"
 #include "Messages.h"
 
-#include <CXddChecker.h>
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace
 {
@@ -50,7 +50,7 @@ QJsonArray shownRules(const QList<CXddRule>& rules)
 
 QJsonObject location(const QString& fileName, const CXddRemark& finding)
 {
-    QJsonObject region = {{key("startLine"), finding.mLine}};
+    QJsonObject region = {{key("startLine"), std::max(finding.mLine, 1)}};
     if (finding.mColumn > 0) {
         region[key("startColumn")] = finding.mColumn;
     }
@@ -67,25 +67,35 @@ QJsonObject location(const QString& fileName, const CXddRemark& finding)
 }
 } // namespace
 
-CSarifReport::CSarifReport()
-    : mRules(CXddChecker::rules())
+CSarifReport::CSarifReport(const SRules& rules)
+    : mRules(rules)
 {
-    for (int number = 0; number < mRules.size(); ++number) {
-        mRuleIndex[mRules.at(number).mId] = number;
+    for (int number = 0; number < mRules.rules.size(); ++number) {
+        mRuleIndex[mRules.rules.at(number).mId] = number;
     }
 }
 
-void CSarifReport::add(const QString& fileName, const QList<CXddRemark>& findings)
+void CSarifReport::add(const QString& fileName, const CXddRemark& finding)
 {
-    for (const CXddRemark& finding : findings) {
-        mResults.append(QJsonObject{
-            {key("ruleId"), finding.mRule},
-            {key("ruleIndex"), mRuleIndex.value(finding.mRule)},
-            {key("level"), CXddRemark::severityAsStr(finding.mSeverity)},
-            {key("message"), message(finding.text())},
-            {key("locations"), QJsonArray{location(fileName, finding)}},
-        });
+    add(fileName, finding, QString(), 0);
+}
+
+void CSarifReport::add(const QString& fileName, const CXddRemark& finding, const QString& relatedFile, int relatedLine)
+{
+    QJsonObject result = {
+        {key("ruleId"), finding.mRule},
+        {key("ruleIndex"), mRuleIndex.value(finding.mRule)},
+        {key("level"), CXddRemark::severityAsStr(finding.mSeverity)},
+        {key("message"), message(finding.text())},
+        {key("locations"), QJsonArray{location(fileName, finding)}},
+    };
+    if (relatedLine > 0) {
+        CXddRemark related = finding;
+        related.mLine = relatedLine;
+        related.mColumn = 0;
+        result[key("relatedLocations")] = QJsonArray{location(relatedFile, related)};
     }
+    mResults.append(result);
 }
 
 void CSarifReport::addFailure(const QString& fileName, const QString& text)
@@ -101,7 +111,7 @@ QByteArray CSarifReport::document() const
     const QJsonObject driver = {
         {key("name"), QCoreApplication::applicationName()},
         {key("version"), QCoreApplication::applicationVersion()},
-        {key("rules"), shownRules(mRules)},
+        {key("rules"), shownRules(mRules.rules)},
     };
     const QJsonObject invocation = {
         {key("executionSuccessful"), mFailures.isEmpty()},

@@ -1,7 +1,7 @@
-#ifndef XDDCHECK_CSARIFREPORT_H
-#define XDDCHECK_CSARIFREPORT_H
+#ifndef TOOLS_CSARIFREPORT_H
+#define TOOLS_CSARIFREPORT_H
 
-#include <CXddRule.h>
+#include "CRuleChoice.h"
 
 #include <QHash>
 #include <QJsonArray>
@@ -12,10 +12,12 @@
 class CSarifReport
 {
 public:
-    CSarifReport();
+    explicit CSarifReport(const SRules& rules);
 
     /** Adds what was found in a file. */
-    void add(const QString& fileName, const QList<CXddRemark>& findings);
+    void add(const QString& fileName, const CXddRemark& finding);
+    /** Adds what differs at a place, with another one that has to do with it; that of line 0 is none. */
+    void add(const QString& fileName, const CXddRemark& finding, const QString& relatedFile, int relatedLine);
     /** Adds that a file could not be read. */
     void addFailure(const QString& fileName, const QString& text);
 
@@ -23,7 +25,7 @@ public:
     QByteArray document() const;
 
 private:
-    QList<CXddRule> mRules;
+    SRules mRules;
     QHash<QString, int> mRuleIndex;
     QJsonArray mResults;
     QJsonArray mFailures;

@@ -11,9 +11,7 @@
 
 namespace
 {
-const QString NAME = QStringLiteral(".xddcheck.ini");
 const QString DISABLE_KEY = QStringLiteral("disable");
-const QStringList SEVERITIES = {QStringLiteral("error"), QStringLiteral("warning"), QStringLiteral("note")};
 
 // True for a file that a pattern of the settings names.
 bool isNamed(const QString& files, const QString& path)
@@ -25,6 +23,11 @@ bool isNamed(const QString& files, const QString& path)
 }
 } // namespace
 
+QString CSettings::name()
+{
+    return QStringLiteral(".%1.ini").arg(QCoreApplication::applicationName());
+}
+
 QString CSettings::apply(const QString& fileName, CRuleChoice& choice)
 {
     const QString name = fileFor(fileName);
@@ -32,7 +35,7 @@ QString CSettings::apply(const QString& fileName, CRuleChoice& choice)
         return QString();
     }
     if (!mFiles.contains(name)) {
-        mFiles.insert(name, read(name));
+        mFiles.insert(name, read(name, choice));
     }
     const SFile file = mFiles.value(name);
     if (!file.error.isEmpty()) {
@@ -62,14 +65,14 @@ QString CSettings::fileFor(const QString& fileName)
     if (!mFileOfFolder.contains(first)) {
         QString found;
         do {
-            found = folder.exists(NAME) ? folder.filePath(NAME) : QString();
+            found = folder.exists(name()) ? folder.filePath(name()) : QString();
         } while (found.isEmpty() && folder.cdUp());
         mFileOfFolder.insert(first, found.isEmpty() ? found : QDir::current().relativeFilePath(found));
     }
     return mFileOfFolder.value(first);
 }
 
-CSettings::SFile CSettings::read(const QString& fileName)
+CSettings::SFile CSettings::read(const QString& fileName, const CRuleChoice& known)
 {
     SFile file;
     file.folder = QFileInfo(fileName).absolutePath();
@@ -94,10 +97,10 @@ CSettings::SFile CSettings::read(const QString& fileName)
             entry.patterns << pattern.trimmed();
         }
         entry.patterns.removeAll(QString());
-        const QString fault = line.contains(QLatin1Char('=')) ? faultOf(entry)
+        const QString fault = line.contains(QLatin1Char('=')) ? faultOf(entry, known)
                                                               : QCoreApplication::translate(
-                                                                    "xddcheck", "\"%1\" is neither a section, a key "
-                                                                                "with \"=\" nor a comment.")
+                                                                    "tools", "\"%1\" is neither a section, a key "
+                                                                             "with \"=\" nor a comment.")
                                                                     .arg(line);
         file.error = fault.isEmpty() ? fault : place(fileName, number + 1) + fault;
         file.entries << entry;
@@ -106,16 +109,15 @@ CSettings::SFile CSettings::read(const QString& fileName)
 }
 
 // Why a line cannot be understood; else empty.
-QString CSettings::faultOf(const SEntry& entry)
+QString CSettings::faultOf(const SEntry& entry, const CRuleChoice& known)
 {
-    if (entry.key != DISABLE_KEY && !SEVERITIES.contains(entry.key)) {
-        return QCoreApplication::translate("xddcheck", "'%1' is not a setting: these are %2.")
-            .arg(entry.key, (QStringList{DISABLE_KEY} + SEVERITIES).join(QLatin1String(", ")));
+    if (entry.key != DISABLE_KEY && !known.rules().severities.contains(entry.key)) {
+        return QCoreApplication::translate("tools", "'%1' is not a setting: these are %2.")
+            .arg(entry.key, (QStringList{DISABLE_KEY} + known.rules().severities).join(QLatin1String(", ")));
     }
-    const CRuleChoice choice;
     for (const QString& pattern : entry.patterns) {
-        if (!choice.isKnown(pattern)) {
-            return QCoreApplication::translate("xddcheck", "'%1' is not a rule.").arg(pattern);
+        if (!known.isKnown(pattern)) {
+            return QCoreApplication::translate("tools", "'%1' is not a rule.").arg(pattern);
         }
     }
     return QString();

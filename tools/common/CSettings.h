@@ -1,5 +1,5 @@
-#ifndef XDDCHECK_CSETTINGS_H
-#define XDDCHECK_CSETTINGS_H
+#ifndef TOOLS_CSETTINGS_H
+#define TOOLS_CSETTINGS_H
 
 #include "CRuleChoice.h"
 
@@ -8,9 +8,9 @@
 #include <QVector>
 
 /**
- * What the files ".xddcheck.ini" of a project say of rules, as an INI file. A section has the pattern of
- * the files that it is about, relative to the folder of the settings; what stands in front of all sections is about all
- * of them:
+ * What the files ".xddcheck.ini" of a project, or those named for another tool, say of rules, as an INI file. A section
+ * has the pattern of the files that it is about, relative to the folder of the settings; what stands in front of all
+ * sections is about all of them:
  *
  *     disable = pdo-*, empty-identity
  *     [legacy*.eds]
@@ -21,6 +21,9 @@ class CSettings
 public:
     /** The settings of the nearest folder at or above each description. */
     CSettings() = default;
+
+    /** The name of the files of the tool that runs, such as ".xddcheck.ini". */
+    static QString name();
 
     /** Takes the settings of one file for all descriptions. */
     void setFile(const QString& fileName) { mFileName = fileName; }
@@ -47,8 +50,8 @@ private:
     };
 
     QString fileFor(const QString& fileName);
-    static SFile read(const QString& fileName);
-    static QString faultOf(const SEntry& entry);
+    static SFile read(const QString& fileName, const CRuleChoice& known);
+    static QString faultOf(const SEntry& entry, const CRuleChoice& known);
 
     QString mFileName;
     bool mIsNone = false;

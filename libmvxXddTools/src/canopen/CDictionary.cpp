@@ -233,6 +233,15 @@ CDictionary::CDictionary(const std::vector<CXmlElement>& lists, CReferences& ref
     }
 }
 
+CDictionary CDictionary::withoutActualValues() const
+{
+    CDictionary copy(*this);
+    for (SEntry& entry : copy.mEntries) {
+        entry.actualValue = {};
+    }
+    return copy;
+}
+
 // Sub-objects belong to the object that was added last.
 void CDictionary::add(SEntry entry)
 {

@@ -121,6 +121,9 @@ public:
      */
     static SProperties fromParameter(const SEntry& entry);
 
+    /** The same without what is configured. */
+    CDictionary withoutActualValues() const;
+
 private:
     void add(SEntry entry);
 

@@ -112,7 +112,7 @@ bool CInteger::operator<(const CInteger& other) const
 std::optional<CValue> CValue::read(const QString& text, unsigned int dataType)
 {
     CValue value;
-    value.mText = text;
+    value.mText = dataType == TYPE_OCTET_STRING ? text.simplified().remove(QLatin1Char(' ')).toLower() : text;
     const QString trimmed = text.trimmed();
     switch (valueKind(dataType)) {
     case EValueKind::None:
@@ -174,15 +174,18 @@ bool CValue::fits(unsigned int dataType) const
 
 bool CValue::isBelow(const CValue& other) const
 {
-    if (mKind == EKind::Real) {
+    if (mKind == EKind::Real && other.mKind == EKind::Real) {
         return !mIsPattern && !other.mIsPattern && mReal < other.mReal;
     }
-    return mKind == EKind::Integer
+    return mKind == EKind::Integer && other.mKind == EKind::Integer
            && (at(MIN_NODE_ID) < other.at(MIN_NODE_ID) || at(MAX_NODE_ID) < other.at(MAX_NODE_ID));
 }
 
 bool CValue::operator==(const CValue& other) const
 {
+    if (mKind != other.mKind) {
+        return false;
+    }
     if (mKind == EKind::Real) {
         return mIsPattern || other.mIsPattern ? mText == other.mText : !(mReal < other.mReal || other.mReal < mReal);
     }

@@ -165,9 +165,15 @@ private:
 QList<CXddPdo> layoutsOf(const CDescription& description, CTexts& texts, unsigned int nodeId)
 {
     const unsigned int node = nodeId != 0 ? nodeId : description.commissioning().mNodeId;
+    return layoutsOf(description.pdos(), description.dictionary(), texts, node);
+}
+
+QList<CXddPdo> layoutsOf(
+    const std::vector<SPdo>& pdos, const CDictionary& dictionary, CTexts& texts, unsigned int nodeId)
+{
     QList<CXddPdo> layouts;
-    for (const SPdo& pdo : description.pdos()) {
-        layouts << CLayout(pdo, description.dictionary(), texts, node).result();
+    for (const SPdo& pdo : pdos) {
+        layouts << CLayout(pdo, dictionary, texts, nodeId).result();
     }
     return layouts;
 }

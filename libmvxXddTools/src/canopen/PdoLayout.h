@@ -10,6 +10,10 @@
  * it states none, CAN-IDs are those of node-ID 0. */
 QList<CXddPdo> layoutsOf(const CDescription& description, CTexts& texts, unsigned int nodeId);
 
+/** The same of the PDOs of a dictionary; with 0 CAN-IDs are those of node-ID 0. */
+QList<CXddPdo> layoutsOf(
+    const std::vector<SPdo>& pdos, const CDictionary& dictionary, CTexts& texts, unsigned int nodeId);
+
 /** Where remarks about a PDO as a whole belong: its communication parameters, else its mapping. */
 SPlace placeOf(const CXddPdo& pdo, const CDictionary& dictionary);
 
