@@ -16,6 +16,8 @@ namespace
 const QString HELP = QStringLiteral("help");
 const QString VERSION = QStringLiteral("version");
 const QString NODE_ID = QStringLiteral("node-id");
+const QString QUIET = QStringLiteral("quiet");
+const QString VERBOSE = QStringLiteral("verbose");
 constexpr unsigned int MAX_NODE_ID = 127;
 
 // What Qt says in this class, so that the catalogue of the tools has it: Qt's own may not be installed.
@@ -49,6 +51,12 @@ void CCommandLine::add(const QStringList& names, const QString& description, con
 {
     mParser.addOption({names, description, valueName});
     mOptions << names;
+}
+
+void CCommandLine::addReportOptions(const QString& verbose, const QString& quiet)
+{
+    add({VERBOSE}, verbose);
+    add({QStringLiteral("q"), QUIET}, quiet);
 }
 
 void CCommandLine::addNodeId(const QString& description)
@@ -92,6 +100,16 @@ unsigned int CCommandLine::nodeId() const
 QStringList CCommandLine::texts(const QString& option) const
 {
     return isSet(option) ? mParser.values(option) : QStringList();
+}
+
+bool CCommandLine::isVerbose() const
+{
+    return isSet(VERBOSE);
+}
+
+bool CCommandLine::isQuiet() const
+{
+    return isSet(QUIET);
 }
 
 QStringList CCommandLine::values(const QString& option) const

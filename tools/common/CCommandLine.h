@@ -34,6 +34,9 @@ public:
     /** Adds the option for a node-ID, which parse() accepts from 1 to 127 only. */
     void addNodeId(const QString& description);
 
+    /** Adds the options for a report that sums nothing up, and for less of it. */
+    void addReportOptions(const QString& verbose, const QString& quiet);
+
     /** Understands the arguments of the program. Returns the status to end with when there is nothing more to do: help
      * or the version were asked for, or the line was refused. */
     std::optional<int> parse(const QStringList& arguments);
@@ -46,6 +49,10 @@ public:
     QStringList values(const QString& option) const;
     /** The node-ID; 0 when none is given. */
     unsigned int nodeId() const;
+    /** True where nothing is summed up. */
+    bool isVerbose() const;
+    /** True where less is reported. */
+    bool isQuiet() const;
     QStringList files() const { return mParser.positionalArguments(); }
 
     /** Says why the command line is refused, and returns the status for that. */

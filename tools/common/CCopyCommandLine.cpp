@@ -15,8 +15,6 @@ const QString OUTPUT = QStringLiteral("output");
 const QString OUTPUT_DIR = QStringLiteral("output-dir");
 const QString IN_PLACE = QStringLiteral("in-place");
 const QString DRY_RUN = QStringLiteral("dry-run");
-const QString VERBOSE = QStringLiteral("verbose");
-const QString QUIET = QStringLiteral("quiet");
 } // namespace
 
 QString SDestination::of(const QString& fileName) const
@@ -49,8 +47,7 @@ void CCopyCommandLine::addCopyOptions(
 {
     addOutputOptions(output, outputDir);
     add({DRY_RUN}, QCoreApplication::translate("tools", "Write nothing, only report."));
-    add({VERBOSE}, verbose);
-    add({QStringLiteral("q"), QUIET}, quiet);
+    addReportOptions(verbose, quiet);
 }
 
 void CCopyCommandLine::addInPlace(const QString& description)
@@ -67,8 +64,8 @@ SCopyRequest CCopyCommandLine::request() const
     request.destination.suffix = mSuffix;
     request.destination.inPlace = isSet(IN_PLACE);
     request.dryRun = isSet(DRY_RUN);
-    request.verbose = isSet(VERBOSE);
-    request.quiet = isSet(QUIET);
+    request.verbose = isVerbose();
+    request.quiet = isQuiet();
     return request;
 }
 

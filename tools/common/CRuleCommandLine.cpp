@@ -17,9 +17,7 @@ const QString FORMAT = QStringLiteral("format");
 const QString LIST_RULES = QStringLiteral("list-rules");
 const QString NO_CONFIG = QStringLiteral("no-config");
 const QString ONLY = QStringLiteral("only");
-const QString QUIET = QStringLiteral("quiet");
 const QString SEVERITY = QStringLiteral("severity");
-const QString VERBOSE = QStringLiteral("verbose");
 const QString WARNINGS_AS_ERRORS = QStringLiteral("warnings-as-errors");
 const QString WRITE_BASELINE = QStringLiteral("write-baseline");
 const QStringList COLORS = {QStringLiteral("auto"), QStringLiteral("always"), QStringLiteral("never")};
@@ -59,8 +57,7 @@ void CRuleCommandLine::addOptions(const QString& quiet)
     add({COLOR},
         QCoreApplication::translate("tools", "Colour severities; auto does so on a terminal, unless NO_COLOR is set."),
         COLORS.join(QLatin1Char('|')));
-    add({VERBOSE}, QCoreApplication::translate("tools", "Print everything separately."));
-    add({QStringLiteral("q"), QUIET}, quiet);
+    addReportOptions(QCoreApplication::translate("tools", "Print everything separately."), quiet);
     add({LIST_RULES},
         QCoreApplication::translate("tools", "Print the rules as they are in force, why they matter and what to do."));
     add({EXPLAIN}, QCoreApplication::translate("tools", "Print what a rule is about, with an example."),
@@ -153,16 +150,6 @@ QString CRuleCommandLine::choose(const QString& fileName, CRuleChoice& choice)
         choice.raiseWarnings();
     }
     return error;
-}
-
-bool CRuleCommandLine::isVerbose() const
-{
-    return isSet(VERBOSE);
-}
-
-bool CRuleCommandLine::isQuiet() const
-{
-    return isSet(QUIET);
 }
 
 QString CRuleCommandLine::baseline() const

@@ -39,10 +39,6 @@ public:
     EFormat format() const { return mFormat; }
     /** True where severities are coloured. */
     bool hasColors() const { return mHasColors; }
-    /** True where nothing is summed up. */
-    bool isVerbose() const;
-    /** True where no totals are printed. */
-    bool isQuiet() const;
     /** The file of the baseline; empty where none is asked for. */
     QString baseline() const;
     /** True when the baseline is written, not compared with. */

@@ -14,8 +14,6 @@ namespace
 const QString ALL = QStringLiteral("all");
 const QString OUTPUT = QStringLiteral("output");
 const QString PDOS_ONLY = QStringLiteral("pdos-only");
-const QString QUIET = QStringLiteral("quiet");
-const QString VERBOSE = QStringLiteral("verbose");
 
 // A device as the command line names it.
 struct SNamedNode
@@ -57,8 +55,8 @@ QString readRequest(const CCommandLine& line, SRequest& request)
     request.output = line.isSet(OUTPUT) ? line.value(OUTPUT) : standardStream();
     request.options |= line.isSet(ALL) ? CXddDbcWriter::OPTION_ALL : 0;
     request.options |= line.isSet(PDOS_ONLY) ? CXddDbcWriter::OPTION_ONLY_PDOS : 0;
-    request.quiet = line.isSet(QUIET);
-    request.verbose = line.isSet(VERBOSE);
+    request.quiet = line.isQuiet();
+    request.verbose = line.isVerbose();
     for (const QString& argument : line.files()) {
         SNamedNode node;
         QString refusal = readNode(argument, node);
@@ -133,8 +131,9 @@ int run(const QStringList& arguments)
     line.add(
         {PDOS_ONLY},
         QCoreApplication::translate("xdd2dbc", "Leave out emergency and heartbeat messages, NMT and SYNC."));
-    line.add({VERBOSE}, QCoreApplication::translate("xdd2dbc", "Report everything separately."));
-    line.add({QStringLiteral("q"), QUIET}, QCoreApplication::translate("xdd2dbc", "Report nothing."));
+    line.addReportOptions(
+        QCoreApplication::translate("xdd2dbc", "Report everything separately."),
+        QCoreApplication::translate("xdd2dbc", "Report nothing."));
     if (const std::optional<int> status = line.parse(arguments)) {
         return *status;
     }
