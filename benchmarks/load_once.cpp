@@ -1,6 +1,7 @@
 #include "Descriptions.h"
 
 #include <CXddChecker.h>
+#include <CXddComparison.h>
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
 #include <CXddPage.h>
@@ -20,9 +21,10 @@
 // Measures loading against parsing alone. Usage:
 //   load_once write OBJECTS FILE        writes a description
 //   load_once (eds|xdd) SOURCE FILE     writes an EDS or a normalised XDD of a description
-//   load_once (floor|load|open|check|page|document) TIMES FILE
-//                                       parses it, loads it, loads it normalised, checks it, writes its page, or only
-//                                       opens it so often, for callgrind and for the peak of memory
+//   load_once (floor|load|open|check|page|document|compare) TIMES FILE
+//                                       parses it, loads it, loads it normalised, checks it, writes its page, only
+//                                       opens it, or compares it with FILE.old so often, for callgrind and for the peak
+//                                       of memory
 //   load_once pairs TIMES FILE          does both in turn and prints the median ratio of their times
 
 namespace
@@ -79,6 +81,14 @@ void openDocument(const QString& fileName)
     }
 }
 
+void compare(const QString& fileName)
+{
+    const CXddDocument old = CXddDocument::openFile(fileName + QLatin1String(".old"));
+    if (!CXddComparison::compare(old, CXddDocument::openFile(fileName)).mIsOpen) {
+        qFatal("Cannot open %s or its old version", qUtf8Printable(fileName));
+    }
+}
+
 bool writeFile(const QString& fileName, const QByteArray& text)
 {
     QFile file(fileName);
@@ -109,7 +119,7 @@ int main(int argc, char* argv[])
 {
     if (argc != 4) {
         std::fprintf(
-            stderr, "usage: load_once (write|eds|xdd|floor|load|open|check|page|document|pairs) NUMBER FILE\n");
+            stderr, "usage: load_once (write|eds|xdd|floor|load|open|check|page|document|compare|pairs) NUMBER FILE\n");
         return 2;
     }
     const QByteArray what = argv[1];
@@ -134,6 +144,7 @@ int main(int argc, char* argv[])
                       : what == "check"    ? check
                       : what == "page"     ? writePage
                       : what == "document" ? openDocument
+                      : what == "compare"  ? compare
                                            : parse;
     for (int i = 0; i < number; ++i) {
         work(fileName);

@@ -164,7 +164,7 @@ bool CRuleCommandLine::isBaselineWritten() const
 
 QString CRuleCommandLine::severityShown(CXddRemark::ESeverity severity) const
 {
-    const QString word = mRules.severities.value(severity);
+    QString word = mRules.severities.value(severity);
     if (!mHasColors) {
         return word;
     }

@@ -41,13 +41,13 @@ QList<SChangeRange> joined(
 
 QString SChangeRange::address() const
 {
-    const QString start = first.entry();
+    QString start = first.entry();
     if (entries == 1 || !first.mIndex) {
         return start;
     }
-    const QString objects = lastIndex == *first.mIndex ? CCanOpenNames::index(lastIndex)
-                                                       : CCanOpenNames::index(*first.mIndex) + QLatin1Char('-')
-                                                             + CCanOpenNames::index(lastIndex);
+    QString objects = lastIndex == *first.mIndex
+                          ? CCanOpenNames::index(lastIndex)
+                          : CCanOpenNames::index(*first.mIndex) + QLatin1Char('-') + CCanOpenNames::index(lastIndex);
     if (!first.mSubIndex) {
         return objects;
     }

@@ -231,7 +231,7 @@ int compareFiles(CRuleCommandLine& line, const SPair& files)
 int compareForGit(CRuleCommandLine& line)
 {
     const QStringList arguments = line.files();
-    const QString path = arguments.first();
+    const QString& path = arguments.first();
     const SPair files = {{arguments[GIT_OLD], path}, {arguments[GIT_NEW], path}};
     const bool isGone = files.now.fileName == NO_FILE;
     if (files.old.fileName == NO_FILE || isGone) {
