@@ -2,6 +2,7 @@
 #include "TestEncodings.h"
 
 #include <CXddChecker.h>
+#include <CXddComparison.h>
 #include <CXddDbcWriter.h>
 #include <CXddEdsWriter.h>
 #include <CXddNormalizer.h>
@@ -91,6 +92,9 @@ QString tools(const QByteArray& text)
     const CXddDocument again = CXddDocument::open(copy.mText);
     if (!again.isOpen() || CXddNormalizer::normalize(again).mText != copy.mText) {
         qFatal("Normalising a second time changes something");
+    }
+    if (!CXddComparison::compare(document, again).mIsOpen) {
+        qFatal("The copy cannot be compared");
     }
     const CXddEds eds = CXddEdsWriter::write(document);
     if (eds.mIncomplete > eds.mEntries) {
@@ -507,8 +511,12 @@ void TestHostile::toolsOnMutations()
         for (int round = 0; round < 500; ++round) {
             const QByteArray text = mutated(base, random);
             const QString refusal = tools(text);
-            const QList<CXddRemark> findings = CXddChecker::check(CXddDocument::open(text));
+            const CXddDocument document = CXddDocument::open(text);
+            const QList<CXddRemark> findings = CXddChecker::check(document);
             QVERIFY2(refusal.isEmpty() || !findings.isEmpty(), qPrintable(refusal));
+            // A normalised copy means the same.
+            const CXddDocument copy = CXddDocument::open(CXddNormalizer::normalize(document).mText);
+            QVERIFY2(CXddComparison::compare(document, copy).mChanges.isEmpty(), text.constData());
         }
     }
 }

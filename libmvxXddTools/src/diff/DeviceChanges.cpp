@@ -6,6 +6,7 @@
 #include "names/NFormatWords.h"
 #include "names/Objects.h"
 
+#include <QMap>
 #include <QSet>
 
 #include <algorithm>
@@ -116,9 +117,10 @@ private:
     // Rates that one side has and the other does not.
     QString ratesOnlyIn(const CXddDevice& device, const CXddDevice& other) const
     {
+        const QSet<EBaudrate> others(other.mBitRates.begin(), other.mBitRates.end());
         QStringList rates;
         for (const EBaudrate rate : device.mBitRates) {
-            if (!other.mBitRates.contains(rate) && (mSides.areXdd() || isInEds(rate))) {
+            if (!others.contains(rate) && (mSides.areXdd() || isInEds(rate))) {
                 rates << rateText(rate);
             }
         }
@@ -207,12 +209,14 @@ private:
             return;
         }
         const auto missing = [](const QList<unsigned int>& types, const QList<unsigned int>& others) {
+            const QSet<unsigned int> known(others.begin(), others.end());
             QStringList found;
             for (const unsigned int type : types) {
-                if (!others.contains(type)) {
+                if (!known.contains(type)) {
                     found << CCanOpenNames::dataType(type);
                 }
             }
+            found.removeDuplicates();
             return found.join(QLatin1String(", "));
         };
         const QString lost = missing(mOld.mDummyTypes, mNow.mDummyTypes);
@@ -338,11 +342,13 @@ bool isRevisionRaised(const SSides& sides)
         || isHigher(old.mDeviceProfile.mFileVersion, now.mDeviceProfile.mFileVersion)) {
         return true;
     }
-    const QList<CVersion>& olds = old.mDeviceProfile.mVersions;
+    // The first version of each kind, such as that of the firmware.
+    QMap<int, QString> versions;
+    for (const CVersion& version : old.mDeviceProfile.mVersions) {
+        versions.insert(version.mVersionType, versions.value(version.mVersionType, version.mValue));
+    }
     const QList<CVersion>& news = now.mDeviceProfile.mVersions;
-    return std::any_of(news.begin(), news.end(), [&olds](const CVersion& version) {
-        return std::any_of(olds.begin(), olds.end(), [&version](const CVersion& other) {
-            return other.mVersionType == version.mVersionType && isHigher(other.mValue, version.mValue);
-        });
+    return std::any_of(news.begin(), news.end(), [&versions](const CVersion& version) {
+        return isHigher(versions.value(version.mVersionType), version.mValue);
     });
 }

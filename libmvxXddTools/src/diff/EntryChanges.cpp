@@ -1,12 +1,12 @@
 #include "CCanOpenNames.h"
 #include "NIso15745Tags.h"
 #include "diff/CChanges.h"
+#include "diff/TextChanges.h"
 #include "names/DataTypes.h"
 #include "names/Objects.h"
 
-#include <QSet>
-
-#include <algorithm>
+#include <map>
+#include <tuple>
 
 using namespace NIso15745Tags;
 
@@ -348,97 +348,37 @@ private:
                 {denotation(pair.old), denotation(pair.now)}, ATTR_DENOTATION);
         }
         if (mSides.areXdd()) {
-            compareLabels(pair, mSides.old.texts.of(pair.old), mSides.now.texts.of(pair.now));
+            compareLabels(pair);
         }
     }
 
-    static QString shown(const QList<CXddLabel>& labels)
+    // Many entries can refer to one parameter, whose texts are compared once.
+    void compareLabels(const SPair& pair)
     {
-        QStringList texts;
-        for (const CXddLabel& label : labels) {
-            texts << label.mLanguage + QLatin1Char('=') + label.mText;
-        }
-        texts.sort();
-        return texts.join(QLatin1String("; "));
-    }
-
-    void compareLabels(const SPair& pair, const CXddEntryTexts& old, const CXddEntryTexts& now)
-    {
-        const auto compare = [&](const QString& before, const QString& after, const SWords& words) {
-            if (before != after) {
-                add("text-changed", pair, words, {before, after});
-            }
+        const auto ownTexts = [](const SEntry& entry) {
+            return entry.subObjects == 0 && !entry.element.firstChild().isNull();
         };
-        compare(shown(old.mLabels), shown(now.mLabels), CRemarks::say("label \"%1\" -> \"%2\""));
-        compare(shown(old.mDescriptions), shown(now.mDescriptions), CRemarks::say("description \"%1\" -> \"%2\""));
-        const QString unit = unitText(old);
-        if (isOtherQuantity(old, now)) {
-            add("unit-changed", pair, CRemarks::say("unit %1 -> %2"), {unit, unitText(now)});
-        } else {
-            compare(unit, unitText(now), CRemarks::say("unit %1 -> %2"));
-        }
-        compareAllowed(pair, old, now);
-    }
-
-    static QString unitText(const CXddEntryTexts& texts)
-    {
-        QStringList parts = {shown(texts.mUnits), texts.mUnitUri};
-        parts << (texts.mMultiplier.isEmpty() ? QString() : QStringLiteral("x ") + texts.mMultiplier);
-        parts << (texts.mOffset.isEmpty() ? QString() : QStringLiteral("+ ") + texts.mOffset);
-        parts.removeAll(QString());
-        return parts.join(QLatin1String(", "));
-    }
-
-    // A unit in a language that only one of them has is no other unit.
-    static bool isOtherQuantity(const CXddEntryTexts& old, const CXddEntryTexts& now)
-    {
-        const auto isOther = [](const QString& before, const QString& after, double otherwise) {
-            return !before.isEmpty() && scaleOf(before, otherwise) != scaleOf(after, otherwise);
+        const auto compared = [this, &pair] {
+            return textChanges(pair.old, mSides.old.texts.of(pair.old), pair.now, mSides.now.texts.of(pair.now));
         };
-        if (isOther(old.mMultiplier, now.mMultiplier, 1) || isOther(old.mOffset, now.mOffset, 0)) {
-            return true;
+        if (ownTexts(pair.old) || ownTexts(pair.now) || pair.old.parameter.isNull() || pair.now.parameter.isNull()) {
+            add(pair, compared());
+            return;
         }
-        if (!old.mUnitUri.isEmpty() && !now.mUnitUri.isEmpty() && old.mUnitUri != now.mUnitUri) {
-            return true;
+        const ParameterKey key = {
+            pair.old.parameter.range().begin, pair.now.parameter.range().begin, pair.old.dataType.value,
+            pair.now.dataType.value, isWritable(pair.now.access.value)};
+        auto found = mOfParameters.find(key);
+        if (found == mOfParameters.end()) {
+            found = mOfParameters.emplace(key, compared()).first;
         }
-        return std::any_of(old.mUnits.begin(), old.mUnits.end(), [&now](const CXddLabel& before) {
-            bool isThere = false;
-            bool isSame = false;
-            for (const CXddLabel& after : now.mUnits) {
-                isThere = isThere || after.mLanguage == before.mLanguage;
-                isSame = isSame || (after.mLanguage == before.mLanguage && after.mText == before.mText);
-            }
-            return isThere && !isSame;
-        });
+        add(pair, found->second);
     }
 
-    // Single values with what they mean; ranges are limits.
-    void compareAllowed(const SPair& pair, const CXddEntryTexts& old, const CXddEntryTexts& now)
+    void add(const SPair& pair, const std::vector<STextChange>& changes)
     {
-        const auto values = [](const CXddEntryTexts& texts, unsigned int dataType) {
-            QMap<QString, QString> found;
-            for (const CXddAllowedValue& allowed : texts.mAllowedValues) {
-                const std::optional<CValue> value = CValue::read(allowed.mLow, dataType);
-                const std::optional<CInteger> number = value ? value->plain() : std::nullopt;
-                found.insert(number ? number->text() : allowed.mLow, shown(allowed.mLabels));
-            }
-            return found;
-        };
-        const QMap<QString, QString> before = values(old, pair.old.dataType.value);
-        const QMap<QString, QString> after = values(now, pair.now.dataType.value);
-        const SDifference difference = {
-            QStringList(before.keys()).join(QLatin1String(", ")), QStringList(after.keys()).join(QLatin1String(", "))};
-        if (before.keys() != after.keys() && !before.isEmpty() && !after.isEmpty()) {
-            const QStringList keys = before.keys();
-            const bool isLost = std::any_of(
-                keys.begin(), keys.end(), [&after](const QString& value) { return !after.contains(value); });
-            add(isLost && isWritable(pair.now.access.value) ? "values-narrowed" : "values-widened", pair,
-                CRemarks::say("allowed values %1 -> %2"), difference);
-        } else if (before.keys() != after.keys()) {
-            add("text-changed", pair, CRemarks::say("allowed values %1 -> %2"), difference);
-        } else if (before != after) {
-            add("text-changed", pair, CRemarks::say("what allowed values mean \"%1\" -> \"%2\""),
-                {before.values().join(QLatin1String("; ")), after.values().join(QLatin1String("; "))});
+        for (const STextChange& change : changes) {
+            add(change.rule, pair, change.words, change.difference);
         }
     }
 
@@ -483,6 +423,10 @@ private:
 
     const SSides& mSides;
     CChanges& mChanges;
+    // Where the parameters of both begin, the data types, and whether the entry can be written.
+    using ParameterKey = std::tuple<int, int, unsigned int, unsigned int, bool>;
+
+    std::map<ParameterKey, std::vector<STextChange>> mOfParameters;
     std::vector<const SEntry*> mGone;
     std::vector<const SEntry*> mNew;
 };
