@@ -93,8 +93,10 @@ QString tools(const QByteArray& text)
     if (!again.isOpen() || CXddNormalizer::normalize(again).mText != copy.mText) {
         qFatal("Normalising a second time changes something");
     }
-    if (!CXddComparison::compare(document, again).mIsOpen) {
-        qFatal("The copy cannot be compared");
+    const CXddComparison comparison = CXddComparison::compare(document, again);
+    const QByteArray review = CXddPage::compared(document, again, comparison, QString());
+    if (!comparison.mIsOpen || review.isEmpty() || review.contains("<script")) {
+        qFatal("The copy cannot be compared, or a text has become markup");
     }
     const CXddEds eds = CXddEdsWriter::write(document);
     if (eds.mIncomplete > eds.mEntries) {

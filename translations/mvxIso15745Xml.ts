@@ -2720,6 +2720,96 @@
         <source>value in force %1 -&gt; %2</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>SDO access</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDO receivers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>stored configuration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what people rely on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) break %1</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n compatible</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n editorial</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>revision raised</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>revision not raised</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Breaks %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compatible</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Editorial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (old)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Process data before and after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tools</name>
@@ -3187,53 +3277,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>SDO access</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>PDO receivers</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>stored configuration</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>what people rely on</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 and %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message numerus="yes">
-        <source>%n change(s) break %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n compatible</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n editorial</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>revision raised</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>revision not raised</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Print only the verdict.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write a page for a review to OUT, too.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -2729,6 +2729,99 @@
         <source>value in force %1 -&gt; %2</source>
         <translation>geltender Wert %1 -&gt; %2</translation>
     </message>
+    <message>
+        <source>SDO access</source>
+        <translation>SDO-Zugriffe</translation>
+    </message>
+    <message>
+        <source>PDO receivers</source>
+        <translation>PDO-Empfänger</translation>
+    </message>
+    <message>
+        <source>stored configuration</source>
+        <translation>gespeicherte Konfiguration</translation>
+    </message>
+    <message>
+        <source>what people rely on</source>
+        <translation>worauf sich Menschen verlassen</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) break %1</source>
+        <translation>
+            <numerusform>eine Änderung bricht %1</numerusform>
+            <numerusform>%n Änderungen brechen %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n compatible</source>
+        <translation>
+            <numerusform>%n verträglich</numerusform>
+            <numerusform>%n verträglich</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n editorial</source>
+        <translation>
+            <numerusform>%n redaktionell</numerusform>
+            <numerusform>%n redaktionell</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>revision raised</source>
+        <translation>Revision erhöht</translation>
+    </message>
+    <message>
+        <source>revision not raised</source>
+        <translation>Revision nicht erhöht</translation>
+    </message>
+    <message>
+        <source>%1: changes</source>
+        <translation>%1: Änderungen</translation>
+    </message>
+    <message>
+        <source>Breaks %1</source>
+        <translation>Bricht %1</translation>
+    </message>
+    <message>
+        <source>Compatible</source>
+        <translation>Verträglich</translation>
+    </message>
+    <message>
+        <source>Editorial</source>
+        <translation>Redaktionell</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Änderung</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>%1 (old)</source>
+        <translation>%1 (alt)</translation>
+    </message>
+    <message>
+        <source>Process data before and after</source>
+        <translation>Prozessdaten vorher und nachher</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Nachher</translation>
+    </message>
 </context>
 <context>
     <name>tools</name>
@@ -3208,57 +3301,12 @@
         <translation>%1: Das ist zweimal dieselbe Datei.</translation>
     </message>
     <message>
-        <source>SDO access</source>
-        <translation>SDO-Zugriffe</translation>
-    </message>
-    <message>
-        <source>PDO receivers</source>
-        <translation>PDO-Empfänger</translation>
-    </message>
-    <message>
-        <source>stored configuration</source>
-        <translation>gespeicherte Konfiguration</translation>
-    </message>
-    <message>
-        <source>what people rely on</source>
-        <translation>worauf sich Menschen verlassen</translation>
-    </message>
-    <message>
-        <source>%1 and %2</source>
-        <translation>%1 und %2</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n change(s) break %1</source>
-        <translation>
-            <numerusform>eine Änderung bricht %1</numerusform>
-            <numerusform>%n Änderungen brechen %1</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n compatible</source>
-        <translation>
-            <numerusform>%n verträglich</numerusform>
-            <numerusform>%n verträglich</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n editorial</source>
-        <translation>
-            <numerusform>%n redaktionell</numerusform>
-            <numerusform>%n redaktionell</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>revision raised</source>
-        <translation>Revision erhöht</translation>
-    </message>
-    <message>
-        <source>revision not raised</source>
-        <translation>Revision nicht erhöht</translation>
-    </message>
-    <message>
         <source>Print only the verdict.</source>
         <translation>Nur das Urteil ausgeben.</translation>
+    </message>
+    <message>
+        <source>Write a page for a review to OUT, too.</source>
+        <translation>Auch eine Seite für ein Review nach OUT schreiben.</translation>
     </message>
 </context>
 <context>

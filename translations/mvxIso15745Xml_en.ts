@@ -66,6 +66,27 @@
             <numerusform>, and %n more fields</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n change(s) break %1</source>
+        <translation>
+            <numerusform>%n change breaks %1</numerusform>
+            <numerusform>%n changes break %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n compatible</source>
+        <translation>
+            <numerusform>%n compatible</numerusform>
+            <numerusform>%n compatible</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n editorial</source>
+        <translation>
+            <numerusform>%n editorial</numerusform>
+            <numerusform>%n editorial</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tools</name>
@@ -160,27 +181,6 @@
         <translation>
             <numerusform>, %n entry</numerusform>
             <numerusform>, %n entries</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n change(s) break %1</source>
-        <translation>
-            <numerusform>%n change breaks %1</numerusform>
-            <numerusform>%n changes break %1</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n compatible</source>
-        <translation>
-            <numerusform>%n compatible</numerusform>
-            <numerusform>%n compatible</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n editorial</source>
-        <translation>
-            <numerusform>%n editorial</numerusform>
-            <numerusform>%n editorial</numerusform>
         </translation>
     </message>
 </context>

@@ -25,8 +25,21 @@ public:
     /** The rules, in the order of the manual. */
     static QList<CXddRule> rules();
 
-    bool mIsOpen = false;           ///< Both documents were open
-    QList<CXddChange> mChanges;     ///< Breaking ones first, then by index and sub-index, the device before its entries
+    /** How many changes of a grade there are. */
+    int count(CXddRemark::ESeverity severity) const;
+    /** "breaking", "compatible" or "editorial", the worst grade that there is, or "same"; the same in every language.
+     */
+    QString verdict() const;
+    /** The verdict for people: "breaking: 3 changes break SDO access and PDO receivers; 14 compatible; revision not
+     * raised (0x00010003)". */
+    QString verdictText() const;
+    /** Who is concerned, such as "SDO access and PDO receivers"; @p concerns are of CXddChange::EConcern. */
+    static QString concernsText(unsigned int concerns);
+
+    bool mIsOpen = false; ///< Both documents were open
+    /** Breaking ones first, then by index and sub-index, the device before its entries. Those that are of no interest
+     * may be taken out. */
+    QList<CXddChange> mChanges;
     bool mIsRevisionRaised = false; ///< A revision or version of the device or file is higher than it was
     /** Revision number of the new description (object 0x1018, sub-index 3), else its file version, as it is written;
      * empty where it states none. */

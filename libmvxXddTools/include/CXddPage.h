@@ -1,6 +1,7 @@
 #ifndef MVXXDDTOOLS_CXDDPAGE_H
 #define MVXXDDTOOLS_CXDDPAGE_H
 
+#include "CXddComparison.h"
 #include "CXddDocument.h"
 #include "CXddRemark.h"
 #include "mvxXddTools_export.h"
@@ -32,6 +33,11 @@ public:
     /** The page of a description. It is in the language of the program; the same description then always gives the same
      * bytes. Without a text, and with the failure, where the description is not open. */
     static CXddPage write(const CXddDocument& document, const SOptions& options);
+
+    /** A page for the review of a new version: the verdict, the changes by whom they break, and what changed PDOs carry
+     * before and after. Nothing where a document is not open. */
+    static QByteArray compared(
+        const CXddDocument& old, const CXddDocument& now, const CXddComparison& comparison, const QString& language);
 
     /** A page that leads to others, which are in its folder. */
     static QByteArray index(const QList<CXddPage>& pages, const QString& language);

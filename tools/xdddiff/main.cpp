@@ -2,13 +2,14 @@
 #include "COutput.h"
 #include "CRuleCommandLine.h"
 #include "CSarifReport.h"
+#include "Catalogue.h"
 #include "ChangeRanges.h"
 #include "Descriptions.h"
 #include "Files.h"
 #include "Messages.h"
-#include "Verdict.h"
 
 #include <CXddComparison.h>
+#include <CXddPage.h>
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -23,6 +24,7 @@ const QString ACCEPT_RAISED = QStringLiteral("accept-raised");
 const QString CONCERNS = QStringLiteral("concerns");
 const QString FAIL_ON = QStringLiteral("fail-on");
 const QString GIT = QStringLiteral("git");
+const QString HTML = QStringLiteral("html");
 
 // What git gives for a file that came or went.
 const QString NO_FILE = QStringLiteral("/dev/null");
@@ -99,9 +101,9 @@ void writeJson(const QJsonObject& json, COutput& output)
     output.writeLine(printable(QString::fromUtf8(QJsonDocument(json).toJson(QJsonDocument::Compact))));
 }
 
-void showJson(const SPair& files, const QList<CXddChange>& changes, const SVerdict& verdict, COutput& output)
+void showJson(const CRuleCommandLine& line, const SPair& files, const CXddComparison& comparison, COutput& output)
 {
-    for (const CXddChange& change : changes) {
+    for (const CXddChange& change : line.isQuiet() ? QList<CXddChange>() : comparison.mChanges) {
         QJsonObject json = {
             {QStringLiteral("file"), files.nameOf(change)},
             {QStringLiteral("line"), change.mLine},
@@ -122,11 +124,11 @@ void showJson(const SPair& files, const QList<CXddChange>& changes, const SVerdi
         writeJson(json, output);
     }
     writeJson(
-        {{QStringLiteral("verdict"), verdict.word()},
-         {QStringLiteral("breaking"), verdict.breaking},
-         {QStringLiteral("compatible"), verdict.compatible},
-         {QStringLiteral("editorial"), verdict.editorial},
-         {QStringLiteral("revisionRaised"), verdict.isRevisionRaised}},
+        {{QStringLiteral("verdict"), comparison.verdict()},
+         {QStringLiteral("breaking"), comparison.count(CXddRemark::SEVERITY_ERROR)},
+         {QStringLiteral("compatible"), comparison.count(CXddRemark::SEVERITY_WARNING)},
+         {QStringLiteral("editorial"), comparison.count(CXddRemark::SEVERITY_NOTE)},
+         {QStringLiteral("revisionRaised"), comparison.mIsRevisionRaised}},
         output);
 }
 
@@ -158,13 +160,16 @@ QList<CXddChange> wanted(const CRuleCommandLine& line, const CRuleChoice& choice
     return wanted;
 }
 
-int statusOf(const CRuleCommandLine& line, const SVerdict& verdict)
+int statusOf(const CRuleCommandLine& line, const CXddComparison& comparison)
 {
     const int grade = int(diffRules().severities.indexOf(line.value(FAIL_ON)));
-    const bool isAccepted = line.isSet(ACCEPT_RAISED) && verdict.isRevisionRaised;
-    const bool isBroken = (verdict.breaking > 0 && !isAccepted)
-                          || (grade >= 0 && grade <= CXddRemark::SEVERITY_WARNING && verdict.compatible > 0)
-                          || (grade == CXddRemark::SEVERITY_NOTE && verdict.editorial > 0);
+    const int least = grade < 0 ? int(CXddRemark::SEVERITY_ERROR) : grade;
+    const bool isAccepted = line.isSet(ACCEPT_RAISED) && comparison.mIsRevisionRaised;
+    const bool isBroken =
+        std::any_of(comparison.mChanges.begin(), comparison.mChanges.end(), [=](const CXddChange& change) {
+            const bool passes = isAccepted && change.mSeverity == CXddRemark::SEVERITY_ERROR;
+            return change.mSeverity >= least && !passes;
+        });
     return isBroken ? EXIT_NOT_ALL_DONE : EXIT_ALL_DONE;
 }
 
@@ -180,6 +185,14 @@ bool open(const SPair& files, CXddDocument& old, CXddDocument& now)
         complainAbout(files.now.shownName, now.failure());
     }
     return old.isOpen() && now.isOpen();
+}
+
+bool writePage(
+    const CRuleCommandLine& line, const CXddDocument& old, const CXddDocument& now, const CXddComparison& comparison)
+{
+    const bool isThere = COtherLanguage(userLanguage()).isThere();
+    const QString language = isThere ? userLanguage() : QStringLiteral("en");
+    return writeFile(line.value(HTML), CXddPage::compared(old, now, comparison, language));
 }
 
 int compareFiles(CRuleCommandLine& line, const SPair& files)
@@ -201,30 +214,32 @@ int compareFiles(CRuleCommandLine& line, const SPair& files)
     if (!open(files, old, now)) {
         return EXIT_USAGE;
     }
-    const CXddComparison comparison = CXddComparison::compare(old, now);
-    QList<CXddChange> changes = wanted(line, choice, comparison);
+    CXddComparison comparison = CXddComparison::compare(old, now);
+    comparison.mChanges = wanted(line, choice, comparison);
     if (line.isBaselineWritten()) {
-        baseline.add(files.now.fileName, changes);
+        baseline.add(files.now.fileName, comparison.mChanges);
         return baseline.write() ? EXIT_ALL_DONE : EXIT_USAGE;
     }
     if (!line.baseline().isEmpty()) {
-        changes = baseline.unknown(files.now.fileName, changes);
+        comparison.mChanges = baseline.unknown(files.now.fileName, comparison.mChanges);
     }
-    const SVerdict verdict(comparison, changes);
+    if (line.isSet(HTML) && !writePage(line, old, now, comparison)) {
+        return EXIT_USAGE;
+    }
     COutput output;
     switch (line.format()) {
     case EFormat::Text:
-        line.isQuiet() ? void() : showText(line, files, changes, output);
-        output.writeLine(printable(verdict.text()));
+        line.isQuiet() ? void() : showText(line, files, comparison.mChanges, output);
+        output.writeLine(printable(comparison.verdictText()));
         break;
     case EFormat::Json:
-        showJson(files, line.isQuiet() ? QList<CXddChange>() : changes, verdict, output);
+        showJson(line, files, comparison, output);
         break;
     case EFormat::Sarif:
-        showSarif(files, changes, output);
+        showSarif(files, comparison.mChanges, output);
         break;
     }
-    return output.finish() ? statusOf(line, verdict) : EXIT_USAGE;
+    return output.finish() ? statusOf(line, comparison) : EXIT_USAGE;
 }
 
 // As "git diff" calls it, which ends with any other status than 0.
@@ -291,6 +306,9 @@ int run(const QStringList& arguments)
     line.add(
         {ACCEPT_RAISED},
         QCoreApplication::translate("xdddiff", "End with 0 for breaking changes where the revision was raised."));
+    line.add(
+        {HTML}, QCoreApplication::translate("xdddiff", "Write a page for a review to OUT, too."),
+        QStringLiteral("OUT"));
     line.add(
         {GIT}, QCoreApplication::translate("xdddiff", "Take the arguments of an external diff of git; end with 0."));
     if (const std::optional<int> status = line.parseRules(arguments)) {

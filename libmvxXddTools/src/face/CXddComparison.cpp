@@ -80,6 +80,65 @@ CXddComparison CXddComparison::compare(const CXddDocument& old, const CXddDocume
     return comparison;
 }
 
+int CXddComparison::count(CXddRemark::ESeverity severity) const
+{
+    return int(std::count_if(mChanges.begin(), mChanges.end(), [severity](const CXddChange& change) {
+        return change.mSeverity == severity;
+    }));
+}
+
+QString CXddComparison::verdict() const
+{
+    CXddRemark::ESeverity worst = CXddRemark::SEVERITY_NOTE;
+    for (const CXddChange& change : mChanges) {
+        worst = std::max(worst, change.mSeverity);
+    }
+    return mChanges.isEmpty() ? QStringLiteral("same") : CXddChange::gradeAsStr(worst);
+}
+
+QString CXddComparison::concernsText(unsigned int concerns)
+{
+    const std::pair<unsigned int, QString> all[] = {
+        {CXddChange::CONCERN_SDO, CRemarks::tr("SDO access")},
+        {CXddChange::CONCERN_PDO, CRemarks::tr("PDO receivers")},
+        {CXddChange::CONCERN_CONFIGURATION, CRemarks::tr("stored configuration")}};
+    QStringList parts;
+    for (const auto& [concern, text] : all) {
+        parts << ((concerns & concern) != 0 ? QStringList{text} : QStringList());
+    }
+    if (parts.isEmpty()) {
+        return CRemarks::tr("what people rely on");
+    }
+    const QString last = parts.takeLast();
+    return parts.isEmpty() ? last : CRemarks::tr("%1 and %2").arg(parts.join(QLatin1String(", ")), last);
+}
+
+QString CXddComparison::verdictText() const
+{
+    unsigned int broken = 0;
+    for (const CXddChange& change : mChanges) {
+        broken |= change.mSeverity == CXddRemark::SEVERITY_ERROR ? change.mConcerns : 0;
+    }
+    const int breaking = count(CXddRemark::SEVERITY_ERROR);
+    const int compatible = count(CXddRemark::SEVERITY_WARNING);
+    const int editorial = count(CXddRemark::SEVERITY_NOTE);
+    QStringList parts;
+    if (breaking > 0) {
+        parts << CRemarks::tr("%n change(s) break %1", nullptr, breaking).arg(concernsText(broken));
+    }
+    if (compatible > 0) {
+        parts << CRemarks::tr("%n compatible", nullptr, compatible);
+    }
+    if (editorial > 0) {
+        parts << CRemarks::tr("%n editorial", nullptr, editorial);
+    }
+    if (breaking > 0) {
+        parts << (mIsRevisionRaised ? CRemarks::tr("revision raised") : CRemarks::tr("revision not raised"))
+                     + (mRevision.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(mRevision));
+    }
+    return parts.isEmpty() ? verdict() : verdict() + QLatin1String(": ") + parts.join(QLatin1String("; "));
+}
+
 QList<CXddRule> CXddComparison::rules()
 {
     return shownRules(CDiffRules::tables());

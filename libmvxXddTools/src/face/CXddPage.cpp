@@ -2,6 +2,7 @@
 
 #include "CXddChecker.h"
 #include "face/SOpened.h"
+#include "html/CComparisonWriter.h"
 #include "html/CPageWriter.h"
 
 #include <QFileInfo>
@@ -36,6 +37,32 @@ CXddPage CXddPage::write(const CXddDocument& document, const SOptions& options)
     result.mErrors = page.count(CXddRemark::SEVERITY_ERROR);
     result.mWarnings = page.count(CXddRemark::SEVERITY_WARNING);
     return result;
+}
+
+QByteArray CXddPage::compared(
+    const CXddDocument& old, const CXddDocument& now, const CXddComparison& comparison, const QString& language)
+{
+    const SOpened* const before = openedOf(old);
+    const SOpened* const after = openedOf(now);
+    if (before == nullptr || after == nullptr) {
+        return {};
+    }
+    const QString tag = CXddLabel::languageTag(language);
+    const auto pageOf = [&tag](const SOpened& opened, const CXddDocument& document) {
+        SPage page{opened.description, QFileInfo(document.name()).fileName(), {}, tag, document.device(), {}};
+        page.pdos = document.pdos();
+        return page;
+    };
+    SPage oldPage = pageOf(*before, old);
+    SPage newPage = pageOf(*after, now);
+    QStringList concerns;
+    for (const unsigned int concern :
+         {CXddChange::CONCERN_SDO, CXddChange::CONCERN_PDO, CXddChange::CONCERN_CONFIGURATION,
+          CXddChange::CONCERN_PEOPLE}) {
+        concerns << CXddComparison::concernsText(concern);
+    }
+    const SComparisonPage page = {oldPage, newPage, comparison.mChanges, comparison.verdictText(), concerns};
+    return CComparisonWriter(page).bytes();
 }
 
 QByteArray CXddPage::index(const QList<CXddPage>& pages, const QString& language)

@@ -64,6 +64,11 @@ int SPage::objects() const
     return int(std::count_if(entries.begin(), entries.end(), [](const CXddEntry& entry) { return !entry.mSubIndex; }));
 }
 
+bool SPage::hasRow(unsigned int index, std::optional<unsigned int> subIndex) const
+{
+    return rows != nullptr ? rows->contains(rowId(index, subIndex)) : description.dictionary().object(index) != nullptr;
+}
+
 QString rowId(unsigned int index, std::optional<unsigned int> subIndex)
 {
     const QString object = hexadecimalText(index, 4);

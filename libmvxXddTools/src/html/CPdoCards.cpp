@@ -67,7 +67,7 @@ void CPdoCards::writeCard(const CXddPdo& pdo)
 {
     const QString look = (pdo.mIsTransmit ? QStringLiteral("pdo tx") : QStringLiteral("pdo rx"))
                          + (pdo.mIsEnabled ? QString() : QStringLiteral(" off"));
-    mHtml.open("div", {{"class", look}, {"id", pdo.name()}, {"data-pdo", pdo.name()}}).line();
+    mHtml.open("div", {{"class", look}, {"id", pdo.name() + mPage.idSuffix}, {"data-pdo", pdo.name()}}).line();
     writeHead(pdo);
     if (pdo.mIsMultiplexed) {
         mHtml.element("p", tr("Multiplexed: its data name the node and the entry that they carry.")).line();
@@ -208,10 +208,10 @@ QString CPdoCards::nameOf(const CXddPdoField& field) const
 void CPdoCards::writeEntry(const CXddPdoField& field)
 {
     const bool isSub = field.mIsSubObject;
+    const auto subIndex = isSub ? std::optional<unsigned int>(field.mSubIndex) : std::nullopt;
     mHtml.open("code");
-    if (field.mIsDescribed) {
-        mHtml.link(
-            rowId(field.mIndex, isSub ? std::optional<unsigned int>(field.mSubIndex) : std::nullopt), field.entry());
+    if (field.mIsDescribed && mPage.hasRow(field.mIndex, subIndex)) {
+        mHtml.link(rowId(field.mIndex, subIndex), field.entry());
     } else {
         mHtml.text(field.entry());
     }

@@ -17,9 +17,11 @@ public:
 
     void write();
 
+    /** Writes the card of one PDO. */
+    void writeCard(const CXddPdo& pdo);
+
 private:
     void writeDirection(bool isTransmit);
-    void writeCard(const CXddPdo& pdo);
     void writeHead(const CXddPdo& pdo);
     void writePicture(const CXddPdo& pdo);
     void writeField(const CXddPdoField& field, int number);

@@ -34,8 +34,11 @@ struct SPage
     QString title() const;
     int count(CXddRemark::ESeverity severity) const;
     int objects() const;
+    const QSet<QString>* rows = nullptr; ///< IDs of the rows that are there; null for those of the dictionary
+    QString idSuffix = {};               ///< Of the IDs of PDOs, where two devices are on one page
+
     /** True when an entry has a row that a link can lead to. */
-    bool hasRow(unsigned int index) const { return description.dictionary().object(index) != nullptr; }
+    bool hasRow(unsigned int index, std::optional<unsigned int> subIndex = std::nullopt) const;
 };
 
 /** The ID of the row of an entry: "0x1018", or "0x1018.A". */
