@@ -11,12 +11,6 @@ namespace
 // Of a kind of changes as many are listed.
 constexpr int MAX_ROWS = 2000;
 
-// The class of a grade, as that of a severity of findings.
-QString classOf(CXddRemark::ESeverity severity)
-{
-    return CXddRemark::severityAsStr(severity).left(1);
-}
-
 QString rowOf(const CXddChange& change)
 {
     return change.mIndex ? rowId(*change.mIndex, change.mSubIndex) : QString();
@@ -101,7 +95,7 @@ void CComparisonWriter::writeRow(const CXddChange& change)
     mWritten << id;
     mHtml.open("tr", {{"id", isFirst ? id : QString()}}).open("td").element("code", change.entry()).close();
     mHtml.element("td", change.mSentence.text()).open("td");
-    mHtml.element("code", change.mRule, {{"class", classOf(change.mSeverity)}}).close();
+    mHtml.element("code", change.mRule, {{"class", CPageWriter::classOf(change.mSeverity)}}).close();
     const QString line = change.mLine == 0 ? QString() : QString::number(change.mLine);
     mHtml.element("td", change.mIsOld ? tr("%1 (old)").arg(line) : line).close().line();
 }

@@ -38,12 +38,6 @@ QString hashOf(const QByteArray& content)
     const QByteArray hash = QCryptographicHash::hash(content, QCryptographicHash::Sha256).toBase64();
     return QStringLiteral("'sha256-%1'").arg(QString::fromLatin1(hash));
 }
-
-// "e", "w" or "n", the class of a severity.
-QString classOf(CXddRemark::ESeverity severity)
-{
-    return CXddRemark::severityAsStr(severity).left(1);
-}
 } // namespace
 
 QString SPage::title() const
@@ -117,6 +111,11 @@ void CPageWriter::begin(CHtml& html, const QString& title, const QString& langua
         .line();
     html.element("title", visibleText(title)).line();
     html.raw("style", css).line().close().line().open("body").line();
+}
+
+QString CPageWriter::classOf(CXddRemark::ESeverity severity)
+{
+    return CXddRemark::severityAsStr(severity).left(1);
 }
 
 QByteArray CPageWriter::style()

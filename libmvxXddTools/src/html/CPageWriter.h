@@ -19,6 +19,8 @@ public:
     /** Begins a page that may show nothing but what stands in it; the body is open then. @p script may be empty. */
     static void begin(CHtml& html, const QString& title, const QString& language, const QByteArray& script);
     static QByteArray style();
+    /** "e", "w" or "n", the class of a severity. */
+    static QString classOf(CXddRemark::ESeverity severity);
 
 private:
     void writeHeader();
