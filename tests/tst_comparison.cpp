@@ -282,6 +282,7 @@ void addReplacements(const QString& form, const QByteArray& base)
         {false, "LSS_Supported=0", "LSS_Supported=1", "feature-gained"},
         {false, "SimpleBootUpSlave=1", "SimpleBootUpSlave=0", "feature-lost"},
         {false, "FileName=bus", "FileName=car", "file-changed"},
+        {false, "10=0x2010\r\n", "", "list-changed 0x2010"},
         {false, "NodeID=5", "NodeID=6", "commissioning-changed"},
     };
     for (const SRow& row : rows) {

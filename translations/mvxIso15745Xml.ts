@@ -2810,6 +2810,18 @@
         <source>After</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>An object of an EDS is in another list of objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools that go by the lists treat it as something else.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is in another list of objects</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tools</name>

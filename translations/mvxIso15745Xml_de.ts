@@ -2822,6 +2822,18 @@
         <source>After</source>
         <translation>Nachher</translation>
     </message>
+    <message>
+        <source>An object of an EDS is in another list of objects</source>
+        <translation>Ein Objekt einer EDS steht in einer anderen Objektliste</translation>
+    </message>
+    <message>
+        <source>Tools that go by the lists treat it as something else.</source>
+        <translation>Werkzeuge, die nach den Listen gehen, behandeln es als etwas anderes.</translation>
+    </message>
+    <message>
+        <source>is in another list of objects</source>
+        <translation>steht in einer anderen Objektliste</translation>
+    </message>
 </context>
 <context>
     <name>tools</name>

@@ -174,6 +174,9 @@ const DiffRules& CDiffRules::people()
          QT_TR_NOOP(
              "Labels, descriptions, denotation, or names of vendor and product are others, or a unit is first stated"),
          QT_TR_NOOP("Nothing has to be done."), "VendorName=Example Works", "VendorName=Example Works Ltd."},
+        {"list-changed", EDITORIAL, PEOPLE, false, QT_TR_NOOP("An object of an EDS is in another list of objects"),
+         QT_TR_NOOP("Tools that go by the lists treat it as something else."), "1=0x2000 in [ManufacturerObjects]",
+         "1=0x2000 in [OptionalObjects]"},
         {"file-changed", EDITORIAL, PEOPLE, false, QT_TR_NOOP("Name, author, date or version of the file are others"),
          QT_TR_NOOP("Nothing has to be done."), "FileRevision=0", "FileRevision=1"},
     };

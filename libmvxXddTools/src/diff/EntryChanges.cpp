@@ -67,6 +67,10 @@ private:
                 ATTR_OBJECT_TYPE);
             return;
         }
+        if (!mSides.areXdd() && mSides.areOfOneForm()
+            && mSides.old.lists.value(*pair.old.index) != mSides.now.lists.value(*pair.now.index)) {
+            add("list-changed", pair, CRemarks::say("is in another list of objects"), {});
+        }
         compareEntries(pair);
         for (const SEntry* const old : mSides.old.dictionary.subObjects(pair.old)) {
             const SEntry* const now =

@@ -13,7 +13,8 @@ struct SSide
     CXddDevice device;
     const CDictionary& dictionary; ///< Without what is configured, unless both are
     QList<CXddPdo> pdos;
-    bool isConfigured = false; ///< It states actual values, or what is configured in the network
+    QHash<unsigned int, QString> lists; ///< Objects that are not in the list for their index, and what is said of that
+    bool isConfigured = false;          ///< It states actual values, or what is configured in the network
 
     bool isXdd() const { return description.isXdd(); }
 };

@@ -23,6 +23,20 @@ bool isConfigured(const CDescription& description)
     return description.form() == CXddDevice::FORM_DCF || hasActualValue(description.dictionary());
 }
 
+// What was said, while an EDS was read, of objects in other lists than the one for their index.
+QHash<unsigned int, QString> otherLists(const QList<CXddRemark>& remarks)
+{
+    QHash<unsigned int, QString> lists;
+    for (const CXddRemark& remark : remarks) {
+        const bool isOfList =
+            remark.mRule == QLatin1String("wrong-list") || remark.mRule == QLatin1String("section-not-listed");
+        if (isOfList && remark.mIndex) {
+            lists.insert(*remark.mIndex, remark.comparable());
+        }
+    }
+    return lists;
+}
+
 // One side, with the dictionary without what is configured where the other side is not.
 struct SHeld
 {
@@ -38,6 +52,7 @@ struct SHeld
               deviceOf(opened.description),
               defaults ? *defaults : opened.description.dictionary(),
               {},
+              otherLists(opened.remarks),
               isConfigured(opened.description)}
     {
         side.pdos = layoutsOf(pdosOf(side.dictionary), side.dictionary, texts, 0);
