@@ -516,9 +516,12 @@ void TestHostile::toolsOnMutations()
             const CXddDocument document = CXddDocument::open(text);
             const QList<CXddRemark> findings = CXddChecker::check(document);
             QVERIFY2(refusal.isEmpty() || !findings.isEmpty(), qPrintable(refusal));
-            // A normalised copy means the same.
+            // A normalised copy means the same, and one for publishing is not put right again.
             const CXddDocument copy = CXddDocument::open(CXddNormalizer::normalize(document).mText);
             QVERIFY2(CXddComparison::compare(document, copy).mChanges.isEmpty(), text.constData());
+            const QByteArray right = CXddNormalizer::conform(document, findings).mText;
+            const CXddDocument again = CXddDocument::open(right);
+            QCOMPARE(CXddNormalizer::conform(again, CXddChecker::check(again)).mText, right);
         }
     }
 }

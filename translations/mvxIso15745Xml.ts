@@ -3675,11 +3675,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Writes copies of CANopen device descriptions for programs that use the strict load of the library, or for publishing (--conformant).</source>
+        <source>Write copies for publishing: put right what xddcheck finds and has one right writing.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Write copies for publishing: put right what xddcheck finds and has one right writing.</source>
+        <source>Writes copies of CANopen device descriptions for programs that use the strict load of the library, or for publishing (--conformant). The copy of an EDS is an XDD.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

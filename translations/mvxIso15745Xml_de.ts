@@ -3701,12 +3701,12 @@
         <translation>%1: --in-place macht aus einer EDS keine XDD. --output schreibt sie in eine eigene Datei, und xdd2eds schreibt eine saubere EDS.</translation>
     </message>
     <message>
-        <source>Writes copies of CANopen device descriptions for programs that use the strict load of the library, or for publishing (--conformant).</source>
-        <translation>Schreibt Kopien von CANopen-Gerätebeschreibungen für Programme, die das strenge Laden der Bibliothek verwenden, oder zum Veröffentlichen (--conformant).</translation>
-    </message>
-    <message>
         <source>Write copies for publishing: put right what xddcheck finds and has one right writing.</source>
         <translation>Kopien zum Veröffentlichen schreiben: berichtigen, was xddcheck findet und genau eine richtige Schreibweise hat.</translation>
+    </message>
+    <message>
+        <source>Writes copies of CANopen device descriptions for programs that use the strict load of the library, or for publishing (--conformant). The copy of an EDS is an XDD.</source>
+        <translation>Schreibt Kopien von CANopen-Gerätebeschreibungen für Programme, die das strenge Laden der Bibliothek verwenden, oder zum Veröffentlichen (--conformant). Die Kopie einer EDS ist eine XDD.</translation>
     </message>
 </context>
 </TS>

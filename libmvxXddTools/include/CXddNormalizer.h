@@ -41,7 +41,8 @@ public:
     /**
      * A copy of a description in XML for publishing: what the findings of CXddChecker are about and has one right
      * writing is put right. What has no one right writing is left, and so is what is not among the findings, such as
-     * what a comment hides. The copy of an EDS is what normalize() makes of it.
+     * what a comment hides. The copy of an EDS is an XDD with all that it states and no defaults that it does not: the
+     * findings are not asked then.
      */
     static CXddCopy conform(const CXddDocument& document, const QList<CXddRemark>& findings);
 

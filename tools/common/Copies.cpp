@@ -36,7 +36,7 @@ ECopied conformFile(const SCopyRequest& request, const QString& fileName, const 
     if (!document.isOpen()) {
         return ECopied::No;
     }
-    if (document.form() != CXddDevice::FORM_XDD) {
+    if (request.destination.inPlace && document.form() != CXddDevice::FORM_XDD) {
         complain(QCoreApplication::translate("tools", "%1: An EDS is not put right; xdd2eds writes it clean.")
                      .arg(fileName));
         return ECopied::No;

@@ -59,7 +59,7 @@ int run(const QStringList& arguments)
         QCoreApplication::translate(
             "xddnormalize",
             "Writes copies of CANopen device descriptions for programs that use the strict load of the library, or for "
-            "publishing (--conformant)."),
+            "publishing (--conformant). The copy of an EDS is an XDD."),
         QCoreApplication::translate(
             "xddnormalize",
             "A description; - is standard input. The copy of one goes to standard output unless it is named."),

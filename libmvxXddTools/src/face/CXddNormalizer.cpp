@@ -1,10 +1,16 @@
 #include "CXddNormalizer.h"
 
+#include "check/CCheckRules.h"
 #include "face/CMemoryFile.h"
 #include "face/SOpened.h"
 #include "normalize/CNormalizeRules.h"
 
 #include <ICIso15745.h>
+
+#include <QSet>
+
+#include <algorithm>
+#include <iterator>
 
 namespace
 {
@@ -25,6 +31,17 @@ void apply(const std::vector<const NormalizeRules*>& tables, const CDescription&
     }
 }
 
+// What was taken otherwise or left out while the file was read, and what was done with it then, in order.
+QList<CXddRemark> withRemarks(const SOpened& opened, const QList<CXddRemark>& others)
+{
+    CRemarks remarks;
+    for (const CXddRemark& remark :
+         opened.remarksOf({CXddRemark::KIND_CHANGE, CXddRemark::KIND_LEFT, CXddRemark::KIND_LOSS}) + others) {
+        remarks.add(remark);
+    }
+    return remarks.inOrder();
+}
+
 CXddCopy copyOf(const CXddDocument& document, CXmlEdits::ELayout layout)
 {
     CXddCopy copy;
@@ -43,13 +60,22 @@ CXddCopy copyOf(const CXddDocument& document, CXmlEdits::ELayout layout)
     const bool isSame = edits.isEmpty() && document.form() == CXddDevice::FORM_XDD;
     copy.mText = isSame ? document.bytes() : opened.encoded.encode(edits.result());
     copy.mLoads = edits.isComplete();
-    CRemarks remarks;
-    for (const CXddRemark& remark :
-         opened.remarksOf({CXddRemark::KIND_CHANGE, CXddRemark::KIND_LEFT, CXddRemark::KIND_LOSS}) + edits.remarks()) {
-        remarks.add(remark);
-    }
-    copy.mRemarks = remarks.inOrder();
+    copy.mRemarks = withRemarks(opened, edits.remarks());
     return copy;
+}
+
+// The remarks without those on how XML is written, which an EDS is not.
+QList<CXddRemark> withoutXml(const QList<CXddRemark>& remarks)
+{
+    QSet<QString> rules;
+    for (const SCheckRule& rule : CCheckRules::form()) {
+        rules << QLatin1String(rule.id);
+    }
+    QList<CXddRemark> others;
+    std::copy_if(remarks.begin(), remarks.end(), std::back_inserter(others), [&rules](const CXddRemark& remark) {
+        return !rules.contains(remark.mRule);
+    });
+    return others;
 }
 
 // Messages name the file by the name that the user knows.
@@ -79,17 +105,20 @@ CXddCopy CXddNormalizer::normalize(const CXddDocument& document)
 
 CXddCopy CXddNormalizer::conform(const CXddDocument& document, const QList<CXddRemark>& findings)
 {
-    if (document.form() != CXddDevice::FORM_XDD) {
+    const SOpened* const opened = openedOf(document);
+    if (opened == nullptr) {
         return normalize(document);
     }
-    const SOpened& opened = *openedOf(document);
-    CXmlEdits edits(opened.tree, CXmlEdits::ELayout::Indented);
-    edits.limitTo(findings);
-    apply({&CNormalizeRules::conform()}, opened.description, edits);
+    CXmlEdits edits(opened->tree, CXmlEdits::ELayout::Indented);
+    if (opened->description.isXdd()) {
+        edits.limitTo(findings);
+    }
+    apply({&CNormalizeRules::conform()}, opened->description, edits);
     CXddCopy copy;
-    copy.mText = edits.isEmpty() ? document.bytes() : opened.encoded.encode(edits.result());
+    const bool isSame = edits.isEmpty() && opened->description.isXdd();
+    copy.mText = isSame ? document.bytes() : opened->encoded.encode(edits.result());
     copy.mLoads = edits.isComplete();
-    copy.mRemarks = edits.remarks();
+    copy.mRemarks = opened->description.isXdd() ? edits.remarks() : withRemarks(*opened, withoutXml(edits.remarks()));
     return copy;
 }
 
