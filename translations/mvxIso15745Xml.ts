@@ -2822,6 +2822,10 @@
         <source>is in another list of objects</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>the revision is not raised</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tools</name>

@@ -2834,6 +2834,10 @@
         <source>is in another list of objects</source>
         <translation>steht in einer anderen Objektliste</translation>
     </message>
+    <message>
+        <source>the revision is not raised</source>
+        <translation>die Revision ist nicht erhöht</translation>
+    </message>
 </context>
 <context>
     <name>tools</name>

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QJsonDocument>
 
 #include <cstdio>
 
@@ -33,6 +34,17 @@ QString printable(const QString& text)
         }
     }
     return result;
+}
+
+// Inside of a JSON text an escape means the same as the character, so the document stays what it is.
+QString jsonLine(const QJsonObject& object)
+{
+    return printable(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
+}
+
+QJsonValue numberOrNull(const std::optional<unsigned int>& number)
+{
+    return number ? QJsonValue(qint64(*number)) : QJsonValue();
 }
 
 void complain(const QString& text)

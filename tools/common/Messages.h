@@ -3,10 +3,12 @@
 
 #include <CXddRemark.h>
 
+#include <QJsonObject>
 #include <QList>
 #include <QString>
 
 #include <limits>
+#include <optional>
 
 /** @file
  * What tools say on standard error, and how texts of a file are shown.
@@ -17,6 +19,12 @@
  * of the text around them, become escapes such as "\u001B".
  */
 QString printable(const QString& text);
+
+/** An object as JSON on one line, in which a terminal shows every character. */
+QString jsonLine(const QJsonObject& object);
+
+/** A number as JSON; null for none. */
+QJsonValue numberOrNull(const std::optional<unsigned int>& number);
 
 /** Writes a message behind the name of the program. */
 void complain(const QString& text);

@@ -10,7 +10,6 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <algorithm>
@@ -51,9 +50,6 @@ void showText(const CRuleCommandLine& line, const QString& fileName, const QList
 
 void showJson(const QString& fileName, const QList<CXddRemark>& findings, COutput& output)
 {
-    const auto number = [](const std::optional<unsigned int>& value) {
-        return value ? QJsonValue(qint64(*value)) : QJsonValue();
-    };
     for (const CXddRemark& finding : findings) {
         const QJsonObject json = {
             {QStringLiteral("file"), fileName},
@@ -61,11 +57,11 @@ void showJson(const QString& fileName, const QList<CXddRemark>& findings, COutpu
             {QStringLiteral("column"), finding.mColumn == 0 ? QJsonValue() : QJsonValue(finding.mColumn)},
             {QStringLiteral("severity"), CXddRemark::severityAsStr(finding.mSeverity)},
             {QStringLiteral("rule"), finding.mRule},
-            {QStringLiteral("index"), number(finding.mIndex)},
-            {QStringLiteral("subIndex"), number(finding.mSubIndex)},
+            {QStringLiteral("index"), numberOrNull(finding.mIndex)},
+            {QStringLiteral("subIndex"), numberOrNull(finding.mSubIndex)},
             {QStringLiteral("text"), finding.text()},
         };
-        output.writeLine(printable(QString::fromUtf8(QJsonDocument(json).toJson(QJsonDocument::Compact))));
+        output.writeLine(jsonLine(json));
     }
 }
 

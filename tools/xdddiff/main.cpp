@@ -13,7 +13,6 @@
 
 #include <QCoreApplication>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <algorithm>
@@ -86,19 +85,9 @@ void showText(const CRuleCommandLine& line, const SPair& files, const QList<CXdd
     }
 }
 
-QJsonValue numberOrNull(const std::optional<unsigned int>& number)
-{
-    return number ? QJsonValue(qint64(*number)) : QJsonValue();
-}
-
 QJsonValue textOrNull(const QString& text)
 {
     return text.isEmpty() ? QJsonValue() : QJsonValue(text);
-}
-
-void writeJson(const QJsonObject& json, COutput& output)
-{
-    output.writeLine(printable(QString::fromUtf8(QJsonDocument(json).toJson(QJsonDocument::Compact))));
 }
 
 void showJson(const CRuleCommandLine& line, const SPair& files, const CXddComparison& comparison, COutput& output)
@@ -121,15 +110,14 @@ void showJson(const CRuleCommandLine& line, const SPair& files, const CXddCompar
                 {QStringLiteral("index"), numberOrNull(change.mOtherIndex)},
                 {QStringLiteral("subIndex"), numberOrNull(change.mOtherSubIndex)}};
         }
-        writeJson(json, output);
+        output.writeLine(jsonLine(json));
     }
-    writeJson(
+    output.writeLine(jsonLine(
         {{QStringLiteral("verdict"), comparison.verdict()},
          {QStringLiteral("breaking"), comparison.count(CXddRemark::SEVERITY_ERROR)},
          {QStringLiteral("compatible"), comparison.count(CXddRemark::SEVERITY_WARNING)},
          {QStringLiteral("editorial"), comparison.count(CXddRemark::SEVERITY_NOTE)},
-         {QStringLiteral("revisionRaised"), comparison.mIsRevisionRaised}},
-        output);
+         {QStringLiteral("revisionRaised"), comparison.mIsRevisionRaised}}));
 }
 
 void showSarif(const SPair& files, const QList<CXddChange>& changes, COutput& output)

@@ -363,11 +363,6 @@ QJsonObject pdoJson(const CXddPdo& pdo, CShownTexts& texts)
     };
 }
 
-// Inside of a JSON text an escape means the same as the character, so the document stays what it is.
-QString oneLine(const QJsonObject& object)
-{
-    return printable(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
-}
 } // namespace
 
 CJsonReport::CJsonReport(COutput& output)
@@ -423,5 +418,5 @@ void CJsonReport::writeLine(QJsonObject json, const CShownTexts& texts)
     if (texts.areLeftOut()) {
         json[key("textsLeftOut")] = true;
     }
-    mOutput.writeLine(oneLine(json));
+    mOutput.writeLine(jsonLine(json));
 }

@@ -88,7 +88,9 @@ CXddComparison CXddComparison::compare(const CXddDocument& old, const CXddDocume
     comparison.mRevision = revision ? hexadecimalText(*revision, 8) : newSide.side.device.mDeviceProfile.mFileVersion;
     if (changes.has(CXddRemark::SEVERITY_ERROR) && !comparison.mIsRevisionRaised) {
         changes.add(
-            QLatin1String("revision-not-raised"), nullptr, nullptr, CRemarks::say("the revision is not raised: %2"),
+            QLatin1String("revision-not-raised"), nullptr, nullptr,
+            comparison.mRevision.isEmpty() ? CRemarks::say("the revision is not raised")
+                                           : CRemarks::say("the revision is not raised: %2"),
             {comparison.mRevision, comparison.mRevision});
     }
     comparison.mChanges = changes.inOrder();
